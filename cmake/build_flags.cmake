@@ -1,0 +1,19 @@
+# One interface target carries the warnings and the sanitizers of every target of the project.
+add_library(tavelo_flags INTERFACE)
+target_compile_definitions(tavelo_flags INTERFACE
+    TAVELO_VERSION_MAJOR=${PROJECT_VERSION_MAJOR}
+    TAVELO_VERSION_MINOR=${PROJECT_VERSION_MINOR}
+    TAVELO_VERSION_REVISION=${PROJECT_VERSION_PATCH})
+
+if(MSVC)
+    target_compile_options(tavelo_flags INTERFACE /W4 /WX /utf-8 /permissive-)
+else()
+    target_compile_options(tavelo_flags INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast
+        -Woverloaded-virtual -Wnon-virtual-dtor -Werror)
+    if(TAVELO_SANITIZE)
+        target_compile_options(tavelo_flags INTERFACE
+            -fsanitize=${TAVELO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(tavelo_flags INTERFACE -fsanitize=${TAVELO_SANITIZE})
+    endif()
+endif()

@@ -1,0 +1,81 @@
+// What a workbook reader gives: the sheets of a workbook, and of one sheet its cells, used range and column widths.
+// The readers for .xls and .xlsx fill it; everything above them reads only this. Rows and columns count from 0.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <expected>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tavelo {
+
+enum class SheetKind : std::uint8_t { worksheet, chart, macro, dialog };
+
+struct SheetInfo {
+    std::string name; // UTF-8
+    SheetKind kind = SheetKind::worksheet;
+};
+
+enum class CellKind : std::uint8_t { blank, number, text, boolean, error };
+
+// The error values of a cell, with the codes that .xls files store.
+enum class CellError : std::uint8_t {
+    null = 0x00,
+    division = 0x07,
+    value = 0x0F,
+    reference = 0x17,
+    name = 0x1D,
+    number = 0x24,
+    not_available = 0x2A,
+    getting_data = 0x2B,
+};
+
+struct Cell {
+    double number = 0;        // number: the value; boolean: 0 or 1; error: the code of CellError
+    std::uint32_t row = 0;    // from 0
+    std::uint32_t text = 0;   // text: index into Workbook::texts()
+    std::uint32_t format = 0; // index into Workbook::formats()
+    std::uint16_t column = 0; // from 0
+    CellKind kind = CellKind::blank;
+};
+
+// The box around all cell records, formatted blanks included. An empty sheet has no rows and no columns.
+struct UsedRange {
+    std::uint32_t first_row = 0;
+    std::uint32_t first_column = 0;
+    std::uint32_t rows = 0;
+    std::uint32_t columns = 0;
+};
+
+struct Sheet {
+    std::vector<Cell> cells; // by row, then column; one cell a place
+    UsedRange used;
+    std::vector<double> column_widths;  // in points, column 0 first; a column beyond the end has `default_column_width`
+    double default_column_width = 48.0; // in points
+};
+
+enum class OpenFailure : std::uint8_t { unreadable, not_a_workbook, damaged, password };
+
+// An opened workbook. A sheet is read when it is asked for; the file itself is already closed.
+class Workbook {
+  public:
+    virtual ~Workbook() = default;
+    // Sheets of all kinds, in the order of the workbook.
+    [[nodiscard]] virtual std::span<const SheetInfo> sheets() const = 0;
+    // A chart or dialog sheet gives an empty sheet.
+    [[nodiscard]] virtual std::expected<Sheet, OpenFailure> read_sheet(std::size_t index) = 0;
+    // Number format codes as Excel writes them (en-US notation); "" is General. Valid after the sheets that use them are read.
+    [[nodiscard]] virtual std::span<const std::string> formats() const = 0;
+    [[nodiscard]] virtual std::span<const std::string> texts() const = 0;
+    // Dates count from 1 January 1904 instead of 1900.
+    [[nodiscard]] virtual bool dates_from_1904() const = 0;
+};
+
+// `bytes` is the whole file. Each reader answers not_a_workbook for what is not its container.
+[[nodiscard]] std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xlsx(std::vector<std::byte> bytes);
+[[nodiscard]] std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xls(std::vector<std::byte> bytes);
+
+} // namespace tavelo

@@ -68,7 +68,8 @@ class Workbook {
     [[nodiscard]] virtual std::span<const SheetInfo> sheets() const = 0;
     // A chart or dialog sheet gives an empty sheet.
     [[nodiscard]] virtual std::expected<Sheet, OpenFailure> read_sheet(std::size_t index) = 0;
-    // Number format codes as Excel writes them (en-US notation); "" is General. Valid after the sheets that use them are read.
+    // Number format codes as Excel writes them (en-US notation); "" is General. Valid after the sheets that use them
+    // are read.
     [[nodiscard]] virtual std::span<const std::string> formats() const = 0;
     [[nodiscard]] virtual std::span<const std::string> texts() const = 0;
     // Dates count from 1 January 1904 instead of 1900.

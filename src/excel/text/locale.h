@@ -1,4 +1,5 @@
-// The regional settings that decide how a stored value is shown: given to the renderer as a value, never read from the system here.
+// The regional settings that decide how a stored value is shown: given to the renderer as a value, never read from the
+// system here.
 #pragma once
 
 #include <array>

@@ -11,7 +11,8 @@ namespace tavelo {
 
 enum class DateSystem { from_1900, from_1904 };
 
-// One parsed format code (up to four sections). Parsing never fails: what is not understood is shown as Excel would, or as General.
+// One parsed format code (up to four sections). Parsing never fails: what is not understood is shown as Excel would, or
+// as General.
 class NumberFormat {
   public:
     // `code` in the en-US notation that workbooks store; "" and "General" in any case are General.

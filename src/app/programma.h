@@ -1,0 +1,58 @@
+// What the program knows while it runs. One value, made by main (or a test) and passed by reference to who needs it.
+#pragma once
+
+#include "app/codeBepaalPaden.h"
+#include "app/instellingen.h"
+#include "basis/grid.h"
+#include "schedule/record/rubriek_labels.h"
+#include "schedule/record/schedule.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace tavelo {
+
+inline constexpr std::string_view programma_titel = "Vendalo 3.5 Tavelo";
+inline constexpr std::string_view bijschrift_naamloos = "Vendalo 3.5 Tavelo - [naamloos]";
+
+// A schedule file that the operator has at hand under one of the two slot buttons.
+struct RoosterSlot {
+    std::string bestand;     // full path, "" for none
+    std::string tijdstempel; // "yyyymmddhhnnss", when it was chosen or last re-read
+    std::string extensie;    // "rst", "xls" (for .xlsx as well) or ""
+};
+
+struct Programma {
+    Instellingen instellingen;
+    Paden paden;
+    bool muiswiel_aanwezig = false;
+
+    Schedule schedule;
+    RubriekLabels labels;
+    std::string bijschrift{bijschrift_naamloos}; // caption of the main window
+    bool herlezen_bezig = false;                 // a re-read is under way: the description label is green
+
+    Grid grdRooster; // the start list
+    Grid grdImport;  // the re-read start list, before it is merged
+    Grid grdExcel;   // the copied worksheet
+
+    std::array<RoosterSlot, 2> slots;
+    std::int16_t rooster_slot = 0;
+    std::string rooster_bestand;
+    std::string rooster_tijdstempel;
+    std::string rooster_extensie;
+
+    // The number box and the current combination. The row is 0 for none.
+    std::string txtINR;
+    bool zoek_op_nummer = false;
+    std::int16_t huidig_nummer = 0;
+    std::int32_t huidige_regel = 0;
+    std::string huidig_nr_tijd;
+    std::string huidig_hnr;
+    std::string huidig_naam;
+
+    bool deelnemer_open = false;
+};
+
+} // namespace tavelo

@@ -1,0 +1,112 @@
+// The grid control as a plain model: rows of texts, a title row, a current cell, a selection and a top row. Positions
+// count from 0. A position outside the grid reads as empty and writing to it changes nothing, so a rule may take its
+// steps one by one without asking first. Setting a row or column never calls back into the rules: only the user's mouse
+// and keys do.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tavelo {
+
+// The grid's alignment codes.
+enum class CellAlignment : std::uint8_t { left_centre = 1, centre_centre = 4, right_centre = 7 };
+
+// What a view hears. Rows are those after the change.
+class GridListener {
+  public:
+    virtual ~GridListener() = default;
+    virtual void cell_changed(int row, int column) = 0;
+    virtual void row_inserted(int row) = 0;
+    virtual void row_removed(int row) = 0;
+    virtual void current_changed() = 0; // current cell, selection or top row
+    virtual void grid_reset() = 0;      // anything else: sizes, widths, alignments, or redraw switched on again
+};
+
+class Grid {
+  public:
+    [[nodiscard]] int rows() const { return static_cast<int>(rows_.size()); }
+    [[nodiscard]] int columns() const { return columns_; }
+    // New rows and columns are empty; a current cell beyond the new end moves to the last row or column.
+    void set_rows(int rows);
+    void set_columns(int columns);
+
+    [[nodiscard]] int fixed_rows() const { return fixed_rows_; }
+    [[nodiscard]] int fixed_columns() const { return fixed_columns_; }
+    void set_fixed_rows(int rows);
+    void set_fixed_columns(int columns);
+
+    [[nodiscard]] const std::string& text(int row, int column) const;
+    void set_text(int row, int column, std::string_view text);
+    // A number that goes with the row and is never shown.
+    [[nodiscard]] std::int32_t row_value(int row) const;
+    void set_row_value(int row, std::int32_t value);
+
+    // Widths in twips; 0 hides the column.
+    [[nodiscard]] int column_width(int column) const;
+    void set_column_width(int column, int twips);
+    // For the cells and the title alike.
+    [[nodiscard]] CellAlignment column_alignment(int column) const;
+    void set_column_alignment(int column, CellAlignment alignment);
+
+    [[nodiscard]] int row() const { return row_; }
+    [[nodiscard]] int column() const { return column_; }
+    // Each also ends the selection at the current cell.
+    void set_row(int row);
+    void set_column(int column);
+    // The selection runs from the current column to this one, on the current row.
+    [[nodiscard]] int selection_column() const { return selection_column_; }
+    void set_selection_column(int column);
+    // Current cell in the last column of `row` and the selection back to column 1: the row is highlighted.
+    void highlight_row(int row);
+
+    [[nodiscard]] int top_row() const { return top_row_; }
+    void set_top_row(int row);
+
+    // Appends an empty row and gives its position.
+    int append_row();
+    // Inserts a row before `row`; at the end when `row` lies beyond it. Texts beyond the last column are dropped.
+    void insert_row(int row, std::span<const std::string> texts);
+    void remove_row(int row);
+
+    // With redraw off the listener hears nothing; switched on again it hears `grid_reset` once.
+    [[nodiscard]] bool redraw() const { return redraw_; }
+    void set_redraw(bool redraw);
+    // Not owned; null for none. It must outlive the grid or be taken away.
+    void set_listener(GridListener* listener) { listener_ = listener; }
+
+  private:
+    struct Row {
+        std::vector<std::string> texts;
+        std::int32_t value = 0;
+    };
+    struct Column {
+        int width = 960;
+        CellAlignment alignment = CellAlignment::left_centre;
+    };
+
+    [[nodiscard]] bool has_cell(int row, int column) const {
+        return row >= 0 && row < rows() && column >= 0 && column < columns_;
+    }
+    [[nodiscard]] GridListener* audience() const { return redraw_ ? listener_ : nullptr; }
+    void keep_positions_inside();
+    void tell_reset() const;
+    void tell_current() const;
+
+    std::vector<Row> rows_;
+    std::vector<Column> column_style_;
+    int columns_ = 0;
+    int fixed_rows_ = 0;
+    int fixed_columns_ = 0;
+    int row_ = 0;
+    int column_ = 0;
+    int selection_column_ = 0;
+    int top_row_ = 0;
+    bool redraw_ = true;
+    GridListener* listener_ = nullptr;
+};
+
+} // namespace tavelo

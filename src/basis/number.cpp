@@ -1,0 +1,113 @@
+#include "basis/number.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace tavelo {
+
+namespace {
+
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+// Digits of a base; those of a number too large for a double end in infinity, which fits no field.
+double unsigned_in_base(std::string_view digits, int base) {
+    double value = 0;
+    for (const char c : digits) {
+        int digit = base;
+        if (is_digit(c)) digit = c - '0';
+        if (c >= 'a' && c <= 'f') digit = c - 'a' + 10;
+        if (c >= 'A' && c <= 'F') digit = c - 'A' + 10;
+        if (digit >= base) break;
+        value = value * base + digit;
+    }
+    return value;
+}
+
+// Length of the leading decimal number (without sign) in `text`; 0 when there is none.
+std::size_t decimal_length(std::string_view text) {
+    std::size_t at = 0;
+    std::size_t digits = 0;
+    const auto skip_digits = [&] {
+        while (at < text.size() && is_digit(text[at])) {
+            ++at;
+            ++digits;
+        }
+    };
+    skip_digits();
+    if (at < text.size() && text[at] == '.') {
+        ++at;
+        skip_digits();
+    }
+    if (digits == 0) return 0;
+    if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
+        std::size_t exponent = at + 1;
+        if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
+        if (exponent < text.size() && is_digit(text[exponent])) {
+            at = exponent;
+            while (at < text.size() && is_digit(text[at]))
+                ++at;
+        }
+    }
+    return at;
+}
+
+template <class Integer>
+std::optional<Integer> fitted(double value) {
+    const double rounded = round_half_even(value);
+    // Written so that a NaN fails it as well.
+    if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
+        return std::nullopt;
+    return static_cast<Integer>(rounded);
+}
+
+} // namespace
+
+double leading_number(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return 0;
+    text.remove_prefix(first);
+    if (text.size() >= 2 && text[0] == '&') {
+        if (text[1] == 'H' || text[1] == 'h') return unsigned_in_base(text.substr(2), 16);
+        if (text[1] == 'O' || text[1] == 'o') return unsigned_in_base(text.substr(2), 8);
+        return 0;
+    }
+    const bool negative = text[0] == '-';
+    if (negative || text[0] == '+') text.remove_prefix(1);
+    const std::size_t length = decimal_length(text);
+    double value = 0;
+    if (length > 0) {
+        const auto result = std::from_chars(text.data(), text.data() + length, value);
+        // Too large is infinity, which fits no field; too small is zero. from_chars leaves the value for both.
+        if (result.ec == std::errc::result_out_of_range) {
+            const std::size_t exponent = text.substr(0, length).find_first_of("eE");
+            const bool tiny = exponent != std::string_view::npos && text[exponent + 1] == '-';
+            value = tiny ? 0 : std::numeric_limits<double>::infinity();
+        }
+    }
+    return negative ? -value : value;
+}
+
+double round_half_even(double value) {
+    const double below = std::floor(value);
+    const double rest = value - below;
+    if (rest < 0.5) return below;
+    if (rest > 0.5) return below + 1;
+    return std::fmod(below, 2) == 0 ? below : below + 1;
+}
+
+std::optional<std::int16_t> to_int16(double value) { return fitted<std::int16_t>(value); }
+std::optional<std::int32_t> to_int32(double value) { return fitted<std::int32_t>(value); }
+
+std::string number_text(double value) {
+    std::array<char, 400> buffer{};
+    const bool plain = std::abs(value) < 1e15;
+    const auto result =
+        plain ? std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed)
+              : std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    const std::string text(buffer.data(), result.ptr);
+    return text == "-0" ? "0" : text;
+}
+
+} // namespace tavelo

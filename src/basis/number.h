@@ -1,0 +1,34 @@
+// Numbers in user data. One reader gives the leading number of a text, one conversion rounds it half to even and
+// answers whether it fits; nothing else in the program reads a number from a file, a setting or an input box.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tavelo {
+
+// The longest leading part that forms a number: leading blanks are skipped, then sign, digits, decimal point, exponent
+// ("1e3" is 1000). "&H" and "&O" in either case introduce an unsigned hexadecimal or octal integer; a sign before them
+// gives 0. A blank inside ends the number, a leading tab gives 0, a text without a number gives 0.
+[[nodiscard]] double leading_number(std::string_view text);
+
+// To the nearest integer, halves to the even neighbour.
+[[nodiscard]] double round_half_even(double value);
+
+// Rounded half to even; nothing when the result does not fit the type.
+[[nodiscard]] std::optional<std::int16_t> to_int16(double value);
+[[nodiscard]] std::optional<std::int32_t> to_int32(double value);
+
+[[nodiscard]] inline std::optional<std::int16_t> int16_of(std::string_view text) {
+    return to_int16(leading_number(text));
+}
+[[nodiscard]] inline std::optional<std::int32_t> int32_of(std::string_view text) {
+    return to_int32(leading_number(text));
+}
+
+// A number as plain decimal text: no exponent up to 15 digits, a decimal point, no trailing zeros.
+[[nodiscard]] std::string number_text(double value);
+
+} // namespace tavelo

@@ -1,0 +1,64 @@
+// The members of the spreadsheet's object model that the program uses, each of which may fail with the error's own
+// text. Rows, columns and sheets count from 1, as there.
+#pragma once
+
+#include <expected>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tavelo {
+
+template <class T>
+using Automation = std::expected<T, std::string>;
+
+// One cell.
+class ExcelRange {
+  public:
+    virtual ~ExcelRange() = default;
+    [[nodiscard]] virtual Automation<double> Width() = 0;      // of the column, in points
+    [[nodiscard]] virtual Automation<std::string> Value() = 0; // the stored value as text
+    [[nodiscard]] virtual Automation<std::string> Text() = 0;  // what is displayed
+};
+
+// The used range: its size counts from its own first row and column.
+struct ExcelUsedRange {
+    int rows_count = 0;
+    int columns_count = 0;
+};
+
+class ExcelWorksheet {
+  public:
+    virtual ~ExcelWorksheet() = default;
+    [[nodiscard]] virtual Automation<ExcelUsedRange> UsedRange() = 0;
+    [[nodiscard]] virtual Automation<std::unique_ptr<ExcelRange>> Cells(int row, int column) = 0;
+};
+
+class ExcelSheets {
+  public:
+    virtual ~ExcelSheets() = default;
+    [[nodiscard]] virtual Automation<int> Count() = 0;
+    [[nodiscard]] virtual Automation<std::unique_ptr<ExcelWorksheet>> Item(int number) = 0;
+};
+
+class ExcelWorkbook {
+  public:
+    virtual ~ExcelWorkbook() = default;
+    [[nodiscard]] virtual Automation<std::unique_ptr<ExcelSheets>> Sheets() = 0;
+    virtual Automation<void> Close() = 0;
+};
+
+class ExcelWorkbooks {
+  public:
+    virtual ~ExcelWorkbooks() = default;
+    [[nodiscard]] virtual Automation<std::unique_ptr<ExcelWorkbook>> Open(std::string_view file_name) = 0;
+};
+
+// Made on first use and kept; never told to quit.
+class ExcelApplication {
+  public:
+    virtual ~ExcelApplication() = default;
+    [[nodiscard]] virtual Automation<std::unique_ptr<ExcelWorkbooks>> Workbooks() = 0;
+};
+
+} // namespace tavelo

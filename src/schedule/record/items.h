@@ -1,0 +1,34 @@
+// Records are tab-separated lists of "key:value" items.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tavelo {
+
+// The text before the first ":", trimmed and in lower case; "" when there is no ":".
+[[nodiscard]] std::string sleutel_van(std::string_view item);
+// The text after the first ":", trimmed; "" when there is no ":".
+[[nodiscard]] std::string_view waarde_van(std::string_view item);
+
+// The value of the first item whose key is exactly `sleutel`, up to the next tab, not trimmed; "" when there is none.
+[[nodiscard]] std::string_view zoek_waarde(std::string_view sleutel, std::string_view record);
+
+// The record with the value of every item of that key replaced, or the items dropped when `waarde` is blank. Without
+// such an item a value that is not empty is added at the end. Items come out trimmed, joined by single tabs; one
+// leading and one trailing tab of the result is taken off.
+[[nodiscard]] std::string zet_waarde(std::string_view sleutel, std::string_view record, std::string_view waarde);
+
+// A star-separated list for display: "*L*M*" becomes "L, M".
+[[nodiscard]] std::string klasse_tekst(std::string_view tekst);
+
+// The code of a ring type ("rcom"): "D" dressage, "S" show jumping, "MD" driving dressage, "MV" driving skills,
+// "AD" team dressage, "" none.
+[[nodiscard]] std::string_view discipline_code(std::int16_t ringtype);
+
+// The four groups of disciplines that a combination has keys for; team dressage counts as dressage everywhere.
+enum class Discipline : std::uint8_t { geen, dressuur, springen, mennen_dressuur, mennen_vaardigheid };
+[[nodiscard]] Discipline discipline_van(std::int16_t ringtype);
+
+} // namespace tavelo

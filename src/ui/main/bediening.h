@@ -1,0 +1,31 @@
+// What the rules of the main window work on: the program's value, the seams to the platform and the two compositions.
+// A window forwards an event to one of the rules beside this file and shows the result.
+#pragma once
+
+#include "app/programma.h"
+#include "basis/seams.h"
+#include "excel/automation.h"
+#include "ui/display/tekenvlak.h"
+
+namespace tavelo {
+
+// Not owned; all outlive the windows.
+struct Omgeving {
+    TextMeasure& meter;
+    MessageBox& berichten;
+    OpenDialog& open_dialoog;
+    const FileStamp& tijdstempels;
+    const Clock& klok;
+    Pointer& muisaanwijzer;
+    SkipLog& logboek;
+    ExcelApplication& excel;
+};
+
+struct Bediening {
+    Programma& programma;
+    Omgeving omgeving;
+    Vertoning voorbeeld;         // preview on the main window
+    Vertoning deelnemer_venster; // the participant window, while it is open
+};
+
+} // namespace tavelo

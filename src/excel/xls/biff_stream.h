@@ -1,0 +1,109 @@
+// The bytes of an .xls workbook as records: a 16-bit type, a 16-bit length, the data. All numbers are little-endian.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+
+namespace tavelo {
+
+using ByteSpan = std::span<const std::byte>;
+
+// A number at a place in the bytes; what lies beyond the end counts as zero.
+[[nodiscard]] std::uint8_t byte_at(ByteSpan bytes, std::size_t place);
+[[nodiscard]] std::uint16_t word_at(ByteSpan bytes, std::size_t place);
+[[nodiscard]] std::uint32_t long_at(ByteSpan bytes, std::size_t place);
+[[nodiscard]] double double_at(ByteSpan bytes, std::size_t place);
+// At most `count` bytes from `place`, fewer at the end.
+[[nodiscard]] ByteSpan part_of(ByteSpan bytes, std::size_t place, std::size_t count = std::dynamic_extent);
+
+enum class Biff : std::uint8_t { biff2, biff3, biff4, biff5, biff8 }; // BIFF5 also stands for BIFF7
+
+// How a workbook stores its texts: BIFF8 in Unicode, older versions in a code page.
+struct TextEncoding {
+    Biff version = Biff::biff8;
+    unsigned code_page = 1252;
+};
+
+// Record types. Where versions before BIFF5 use another number for the same record, that number has the version in its
+// name.
+namespace biff {
+constexpr std::uint16_t blank_2 = 0x0001, integer_2 = 0x0002, number_2 = 0x0003, label_2 = 0x0004, boolerr_2 = 0x0005;
+constexpr std::uint16_t formula = 0x0006, string_2 = 0x0007, bof_2 = 0x0009, eof = 0x000A;
+constexpr std::uint16_t format_2 = 0x001E, datemode = 0x0022, colwidth_2 = 0x0024, filepass = 0x002F, font = 0x0031;
+constexpr std::uint16_t continued = 0x003C, codepage = 0x0042, xf_2 = 0x0043, defcolwidth = 0x0055, colinfo = 0x007D;
+constexpr std::uint16_t wsbool = 0x0081, boundsheet = 0x0085, bundleheader = 0x008F, standardwidth = 0x0099;
+constexpr std::uint16_t mulrk = 0x00BD, mulblank = 0x00BE, rstring = 0x00D6, xf = 0x00E0, sst = 0x00FC,
+                        labelsst = 0x00FD;
+constexpr std::uint16_t dimensions = 0x0200, blank = 0x0201, number = 0x0203, label = 0x0204, boolerr = 0x0205;
+constexpr std::uint16_t formula_3 = 0x0206, string = 0x0207, row = 0x0208, bof_3 = 0x0209, font_3 = 0x0231,
+                        xf_3 = 0x0243;
+constexpr std::uint16_t rk = 0x027E, style = 0x0293, formula_4 = 0x0406, bof_4 = 0x0409, format = 0x041E, xf_4 = 0x0443;
+constexpr std::uint16_t bof = 0x0809;
+} // namespace biff
+
+[[nodiscard]] constexpr bool is_bof(std::uint16_t type) {
+    return type == biff::bof_2 || type == biff::bof_3 || type == biff::bof_4 || type == biff::bof;
+}
+
+// What a substream (the globals, a sheet) holds; the numbers are those of its BOF record.
+enum class SubstreamKind : std::uint16_t {
+    globals = 0x05,
+    modules = 0x06,
+    sheet = 0x10,
+    chart = 0x20,
+    macro = 0x40,
+    book_4 = 0x100
+};
+
+struct BiffRecord {
+    std::uint16_t type = 0;
+    ByteSpan data;
+};
+
+[[nodiscard]] Biff version_of_bof(const BiffRecord& bof);
+[[nodiscard]] SubstreamKind kind_of_bof(const BiffRecord& bof);
+
+// Walks over the records. A last record that is cut off gives the bytes that are there.
+class BiffCursor {
+  public:
+    explicit BiffCursor(ByteSpan stream, std::size_t place = 0) : stream_(stream), place_(place) {}
+    [[nodiscard]] std::optional<BiffRecord> next();
+    // The next record when it has this type; otherwise nothing, and the cursor stays.
+    [[nodiscard]] std::optional<BiffRecord> next_if(std::uint16_t type);
+    // Where the next record begins.
+    [[nodiscard]] std::size_t place() const { return place_; }
+
+  private:
+    ByteSpan stream_;
+    std::size_t place_;
+};
+
+// The data of one record and of the CONTINUE records behind it, read as one run. Beyond the end everything is zero.
+class BiffText {
+  public:
+    // `cursor` stands behind the record; it moves over each CONTINUE record that is read.
+    BiffText(BiffCursor& cursor, ByteSpan data) : cursor_(cursor), data_(data) {}
+
+    [[nodiscard]] bool at_end();
+    [[nodiscard]] std::uint8_t byte();
+    [[nodiscard]] std::uint16_t word();
+    [[nodiscard]] std::uint32_t long_word();
+    void skip(std::size_t count);
+
+    // A string behind its length. Formatting runs and the phonetic block of BIFF8 are skipped; a string that is cut off
+    // gives the characters that are there.
+    [[nodiscard]] std::string string(std::size_t length, TextEncoding encoding);
+
+  private:
+    [[nodiscard]] bool next_part();
+    [[nodiscard]] std::string unicode_string(std::size_t length);
+    [[nodiscard]] std::string byte_string(std::size_t length, unsigned code_page);
+
+    BiffCursor& cursor_;
+    ByteSpan data_; // what is left of the current record
+};
+
+} // namespace tavelo

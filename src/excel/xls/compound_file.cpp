@@ -1,0 +1,200 @@
+#include "excel/xls/compound_file.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace tavelo {
+
+namespace {
+
+constexpr std::uint32_t no_sector =
+    0xFFFFFFFA; // from here on the numbers have a meaning of their own (end of chain, free, table)
+constexpr std::size_t entry_size = 128;
+constexpr std::uint32_t no_entry = 0xFFFFFFFF;
+
+enum class EntryType : std::uint8_t { unused = 0, storage = 1, stream = 2, root = 5 };
+
+struct Entry {
+    std::u16string name; // in small letters, as far as ASCII goes
+    EntryType type = EntryType::unused;
+    std::uint32_t left = no_entry;
+    std::uint32_t right = no_entry;
+    std::uint32_t child = no_entry;
+    std::uint32_t first_sector = no_sector;
+    std::uint32_t size = 0; // a workbook of 4 GiB does not exist, so the upper half is not read
+};
+
+// The sectors of a chain, in order. Ends where the chain leaves the table or comes back to itself.
+std::vector<std::uint32_t> chain_of(std::uint32_t first, const std::vector<std::uint32_t>& table) {
+    std::vector<std::uint32_t> chain;
+    std::vector<bool> seen(table.size());
+    for (std::uint32_t sector = first; sector < table.size() && !seen[sector]; sector = table[sector]) {
+        seen[sector] = true;
+        chain.push_back(sector);
+    }
+    return chain;
+}
+
+void append(std::vector<std::byte>& target, ByteSpan bytes) { target.insert(target.end(), bytes.begin(), bytes.end()); }
+
+void append_numbers(std::vector<std::uint32_t>& table, ByteSpan bytes) {
+    for (std::size_t place = 0; place + 4 <= bytes.size(); place += 4)
+        table.push_back(long_at(bytes, place));
+}
+
+class CompoundFile {
+  public:
+    explicit CompoundFile(ByteSpan file) : file_(file) {}
+
+    [[nodiscard]] bool open() {
+        const unsigned sector_shift = word_at(file_, 30);
+        const unsigned mini_shift = word_at(file_, 32);
+        if (sector_shift < 9 || sector_shift > 16 || mini_shift > sector_shift) return false;
+        sector_size_ = std::size_t{1} << sector_shift;
+        mini_size_ = std::size_t{1} << mini_shift;
+        mini_cutoff_ = long_at(file_, 56);
+        read_sector_table();
+        read_directory();
+        return !entries_.empty();
+    }
+
+    [[nodiscard]] const Entry* find(std::u16string_view name) const {
+        if (const Entry* entry = find_in_root(name)) return entry;
+        const auto found =
+            std::ranges::find_if(entries_, [name](const Entry& entry) { return is_stream(entry, name); });
+        return found == entries_.end() ? nullptr : &*found;
+    }
+
+    [[nodiscard]] std::vector<std::byte> read(const Entry& entry) const {
+        std::vector<std::byte> bytes =
+            entry.size < mini_cutoff_ ? read_mini_chain(entry) : read_chain(entry.first_sector);
+        if (bytes.size() > entry.size) bytes.resize(entry.size);
+        return bytes;
+    }
+
+  private:
+    static bool is_stream(const Entry& entry, std::u16string_view name) {
+        return entry.type == EntryType::stream && entry.size > 0 && entry.name == name;
+    }
+
+    [[nodiscard]] std::size_t sector_count() const { return file_.size() / sector_size_ + 1; }
+
+    // The header takes the place of the sector before sector 0.
+    [[nodiscard]] ByteSpan sector(std::uint32_t number) const {
+        return part_of(file_, (std::size_t{number} + 1) * sector_size_, sector_size_);
+    }
+
+    void read_sector_table() {
+        constexpr std::size_t in_header = 109;
+        std::vector<std::uint32_t> parts;
+        append_numbers(parts, part_of(file_, 76, in_header * 4));
+
+        std::vector<bool> seen(sector_count());
+        std::uint32_t more = long_at(file_, 68);
+        while (more < seen.size() && !seen[more]) {
+            seen[more] = true;
+            const ByteSpan bytes = sector(more);
+            const std::size_t next = sector_size_ - 4;
+            append_numbers(parts, part_of(bytes, 0, next));
+            more = bytes.size() == sector_size_ ? long_at(bytes, next) : no_sector;
+        }
+
+        // A table never describes more sectors than the file has, so a part that is listed twice cannot make it grow.
+        for (const std::uint32_t part : parts) {
+            if (sector_table_.size() >= sector_count()) break;
+            if (part < no_sector) append_numbers(sector_table_, sector(part));
+        }
+    }
+
+    void read_directory() {
+        const std::vector<std::byte> bytes = read_chain(long_at(file_, 48));
+        for (std::size_t place = 0; place + entry_size <= bytes.size(); place += entry_size)
+            entries_.push_back(entry_of(part_of(bytes, place, entry_size)));
+        if (entries_.empty()) return;
+        for (const std::uint32_t number : chain_of(long_at(file_, 60), sector_table_))
+            append_numbers(mini_table_, sector(number));
+        mini_stream_ = read_chain(entries_.front().first_sector);
+    }
+
+    static Entry entry_of(ByteSpan bytes) {
+        Entry entry;
+        const std::size_t name_bytes = std::min<std::size_t>(word_at(bytes, 64), 64);
+        for (std::size_t place = 0; place + 2 <= name_bytes; place += 2) {
+            const char16_t unit = word_at(bytes, place);
+            if (unit == 0) break;
+            entry.name.push_back(unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit);
+        }
+        entry.type = static_cast<EntryType>(byte_at(bytes, 66));
+        entry.left = long_at(bytes, 68);
+        entry.right = long_at(bytes, 72);
+        entry.child = long_at(bytes, 76);
+        entry.first_sector = long_at(bytes, 116);
+        entry.size = long_at(bytes, 120);
+        return entry;
+    }
+
+    // Workbooks that are embedded in this one have streams of the same names, in storages below the root.
+    [[nodiscard]] const Entry* find_in_root(std::u16string_view name) const {
+        std::vector<bool> seen(entries_.size());
+        std::vector<std::uint32_t> open = {entries_.front().child};
+        while (!open.empty()) {
+            const std::uint32_t number = open.back();
+            open.pop_back();
+            if (number >= entries_.size() || seen[number]) continue;
+            seen[number] = true;
+            const Entry& entry = entries_[number];
+            if (is_stream(entry, name)) return &entry;
+            open.push_back(entry.left);
+            open.push_back(entry.right);
+        }
+        return nullptr;
+    }
+
+    [[nodiscard]] std::vector<std::byte> read_chain(std::uint32_t first) const {
+        std::vector<std::byte> bytes;
+        for (const std::uint32_t number : chain_of(first, sector_table_))
+            append(bytes, sector(number));
+        return bytes;
+    }
+
+    [[nodiscard]] std::vector<std::byte> read_mini_chain(const Entry& entry) const {
+        std::vector<std::byte> bytes;
+        for (const std::uint32_t number : chain_of(entry.first_sector, mini_table_))
+            append(bytes, part_of(mini_stream_, number * mini_size_, mini_size_));
+        return bytes;
+    }
+
+    ByteSpan file_;
+    std::size_t sector_size_ = 0;
+    std::size_t mini_size_ = 0;
+    std::size_t mini_cutoff_ = 0;             // streams smaller than this lie in the mini stream
+    std::vector<std::uint32_t> sector_table_; // the sector that follows each sector
+    std::vector<std::uint32_t> mini_table_;
+    std::vector<std::byte> mini_stream_;
+    std::vector<Entry> entries_; // the root first
+};
+
+bool has_signature(ByteSpan file) {
+    constexpr std::array<std::uint8_t, 8> signature = {0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1};
+    return file.size() >= signature.size() &&
+           std::ranges::equal(signature, file.first(signature.size()), {}, {}, std::to_integer<std::uint8_t>);
+}
+
+} // namespace
+
+std::expected<std::vector<std::byte>, CompoundFailure> workbook_stream(ByteSpan file) {
+    if (!has_signature(file)) return std::unexpected(CompoundFailure::not_compound);
+    CompoundFile compound(file);
+    if (!compound.open()) return std::unexpected(CompoundFailure::damaged);
+    for (const std::u16string_view name : {u"workbook", u"book"}) {
+        if (const Entry* entry = compound.find(name)) {
+            std::vector<std::byte> bytes = compound.read(*entry);
+            if (!bytes.empty()) return bytes;
+        }
+    }
+    if (compound.find(u"encryptedpackage") != nullptr) return std::unexpected(CompoundFailure::encrypted_package);
+    return std::unexpected(CompoundFailure::no_workbook);
+}
+
+} // namespace tavelo

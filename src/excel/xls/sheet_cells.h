@@ -1,0 +1,26 @@
+// One sheet of an .xls workbook: its substream of records turned into cells, used range and column widths.
+#pragma once
+
+#include "excel/book/workbook.h"
+#include "excel/xls/biff_stream.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tavelo {
+
+// What the workbook knows that the records of a sheet refer to.
+struct SheetContext {
+    TextEncoding encoding;
+    std::span<const std::uint32_t> cell_formats; // by the number that cells store
+    std::size_t shared_strings = 0;              // the first of the texts
+    int digit_pixels = 7;
+};
+
+// Reads behind the sheet's BOF record up to its end, or to the end of the stream. Substreams inside (charts) are passed
+// over. Texts that are no shared strings are added to `texts`.
+[[nodiscard]] Sheet read_sheet_cells(BiffCursor cursor, const SheetContext& context, std::vector<std::string>& texts);
+
+} // namespace tavelo

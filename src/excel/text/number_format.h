@@ -30,4 +30,8 @@ class NumberFormat {
     std::unique_ptr<const Parsed> parsed_;
 };
 
+// The code of a built-in format id; General for an id that has none. The ids that follow the system's short date (14,
+// 22 and the East Asian dates) give a code with a tag of our own, which shows Locale::short_date.
+[[nodiscard]] std::string_view builtin_format(unsigned id);
+
 } // namespace tavelo

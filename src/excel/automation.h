@@ -1,5 +1,5 @@
 // The members of the spreadsheet's object model that the program uses, each of which may fail with the error's own
-// text. Rows, columns and sheets count from 1, as there.
+// text. Rows and columns count from 1, as there.
 #pragma once
 
 #include <expected>
@@ -21,16 +21,19 @@ class ExcelRange {
     [[nodiscard]] virtual Automation<std::string> Text() = 0;  // what is displayed
 };
 
-// The used range: its size counts from its own first row and column.
-struct ExcelUsedRange {
-    int rows_count = 0;
-    int columns_count = 0;
+// The size counts from the first used row and column, wherever those are.
+class ExcelUsedRange {
+  public:
+    virtual ~ExcelUsedRange() = default;
+    [[nodiscard]] virtual Automation<int> Rows_Count() = 0;
+    [[nodiscard]] virtual Automation<int> Columns_Count() = 0;
 };
 
 class ExcelWorksheet {
   public:
     virtual ~ExcelWorksheet() = default;
-    [[nodiscard]] virtual Automation<ExcelUsedRange> UsedRange() = 0;
+    [[nodiscard]] virtual Automation<std::unique_ptr<ExcelUsedRange>> UsedRange() = 0;
+    // Counted from A1, also when the used range begins elsewhere.
     [[nodiscard]] virtual Automation<std::unique_ptr<ExcelRange>> Cells(int row, int column) = 0;
 };
 
@@ -38,7 +41,8 @@ class ExcelSheets {
   public:
     virtual ~ExcelSheets() = default;
     [[nodiscard]] virtual Automation<int> Count() = 0;
-    [[nodiscard]] virtual Automation<std::unique_ptr<ExcelWorksheet>> Item(int number) = 0;
+    // The enumeration, in the order of the workbook: null after the last sheet.
+    [[nodiscard]] virtual Automation<std::unique_ptr<ExcelWorksheet>> Next() = 0;
 };
 
 class ExcelWorkbook {

@@ -57,8 +57,8 @@ struct Sheet {
     double default_column_width = 48.0; // in points
 };
 
-// too_large: what a reader refuses to unpack, a zip bomb for instance.
-enum class OpenFailure : std::uint8_t { unreadable, not_a_workbook, damaged, password, too_large };
+// damaged: broken, or saved for a part only. too_large: what a reader refuses to unpack, a zip bomb for instance.
+enum class OpenFailure : std::uint8_t { not_found, unreadable, not_a_workbook, damaged, password, too_large };
 
 // An opened workbook. A sheet is read when it is asked for; the file itself is already closed.
 class Workbook {

@@ -5,8 +5,6 @@
 
 namespace tavelo {
 
-std::string_view builtin_format(unsigned id);
-
 std::uint32_t FormatCodes::number_of(std::string_view code) {
     if (const auto known = numbers_.find(code); known != numbers_.end()) return known->second;
     const auto number = static_cast<std::uint32_t>(codes_.size());

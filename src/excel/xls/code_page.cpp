@@ -1,5 +1,7 @@
 #include "excel/xls/code_page.h"
 
+#include "basis/text.h"
+
 #include <algorithm>
 #include <array>
 
@@ -96,25 +98,6 @@ constexpr auto upper_halves = std::to_array<UpperHalf>({
      u"‡·‚„‰ÂÊÁËÈÍÎÏÌÓÔ\uF8FFÒÚÛÙıˆ˜¯˘˙˚¸˝˛ˇ"},
 });
 // clang-format on
-
-void append_utf8(std::string& text, char32_t character) {
-    const auto unit = [&text](char32_t value) { text.push_back(static_cast<char>(value)); };
-    if (character < 0x80) {
-        unit(character);
-    } else if (character < 0x800) {
-        unit(0xC0 | character >> 6);
-        unit(0x80 | (character & 0x3F));
-    } else if (character < 0x10000) {
-        unit(0xE0 | character >> 12);
-        unit(0x80 | (character >> 6 & 0x3F));
-        unit(0x80 | (character & 0x3F));
-    } else {
-        unit(0xF0 | character >> 18);
-        unit(0x80 | (character >> 12 & 0x3F));
-        unit(0x80 | (character >> 6 & 0x3F));
-        unit(0x80 | (character & 0x3F));
-    }
-}
 
 bool is_high_surrogate(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
 bool is_low_surrogate(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }

@@ -1,0 +1,46 @@
+#include "excel/sheet_box.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace tavelo {
+
+namespace {
+
+bool fits(const UsedRange& box) {
+    const auto rows = std::uint64_t{box.first_row} + box.rows;
+    const auto columns = std::uint64_t{box.first_column} + box.columns;
+    return rows * columns <= most_shown_cells;
+}
+
+UsedRange box_of_values(const Sheet& sheet) {
+    std::uint32_t first_row = UINT32_MAX;
+    std::uint32_t first_column = UINT32_MAX;
+    std::uint32_t last_row = 0;
+    std::uint32_t last_column = 0;
+    for (const Cell& cell : sheet.cells) {
+        if (cell.kind == CellKind::blank) continue;
+        first_row = std::min(first_row, cell.row);
+        first_column = std::min<std::uint32_t>(first_column, cell.column);
+        last_row = std::max(last_row, cell.row);
+        last_column = std::max<std::uint32_t>(last_column, cell.column);
+    }
+    if (first_row > last_row) return {};
+    return {first_row, first_column, last_row - first_row + 1, last_column - first_column + 1};
+}
+
+} // namespace
+
+std::optional<UsedRange> box_to_show(const Sheet& sheet) {
+    if (fits(sheet.used)) return sheet.used;
+    const UsedRange values = box_of_values(sheet);
+    return fits(values) ? std::optional(values) : std::nullopt;
+}
+
+const Cell* cell_at(const Sheet& sheet, std::uint32_t row, std::uint32_t column) {
+    const auto place = [](const Cell& cell) { return std::pair<std::uint32_t, std::uint32_t>(cell.row, cell.column); };
+    const auto found = std::ranges::lower_bound(sheet.cells, std::pair(row, column), {}, place);
+    return found != sheet.cells.end() && place(*found) == std::pair(row, column) ? &*found : nullptr;
+}
+
+} // namespace tavelo

@@ -1,0 +1,42 @@
+# The Debian 12 packages of the project, and how to get those that are missing. Sourced by the other scripts.
+# shellcheck shell=bash
+
+# To build and run the program. The fonts give the display its metric equal of Arial.
+packages_run=(
+    cmake ninja-build g++ pkgconf
+    qt6-base-dev libgl1-mesa-dev libzip-dev libexpat1-dev
+    fonts-liberation
+)
+
+# To play the demonstration on a virtual display: server, window manager, keys and mouse, pictures.
+packages_demo=(
+    python3
+    xvfb openbox xdotool imagemagick x11-utils
+)
+
+# To test: everything above and these.
+packages_test=(
+    libgtest-dev clang-format-14
+)
+
+# Only on request: benchmarks (scripts/bench.sh), fuzzing (scripts/fuzz.sh), the generator of the example workbook.
+packages_bench=(libbenchmark-dev)
+packages_fuzz=(clang-14 libclang-rt-14-dev)
+packages_examples=(python3-xlsxwriter)
+
+# install_missing PACKAGE...: asks apt for what is not installed yet and stays silent when nothing is missing.
+install_missing() {
+    local missing=() package
+    for package in "$@"; do
+        [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+            missing+=("$package")
+    done
+    [ "${#missing[@]}" -gt 0 ] || return 0
+
+    echo "== installing: ${missing[*]}"
+    local as_root=()
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    "${as_root[@]}" apt-get update --quiet=2
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install --yes --quiet=2 --no-install-recommends "${missing[@]}"
+}

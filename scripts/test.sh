@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds everything with warnings as errors and runs every test of the project. The layer
+# check, the formatting, the demonstration and the rules under sanitizers are tests too, so that one summary of the test
+# runner closes the run.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+# shellcheck source=scripts/packages.sh
+. scripts/packages.sh
+
+step() { printf '\n== %s (%s s)\n' "$1" "$SECONDS"; }
+
+step "install"
+install_missing "${packages_run[@]}" "${packages_demo[@]}" "${packages_test[@]}"
+
+step "build: release, all targets"
+cmake --preset release -DTAVELO_TESTS=ON -DTAVELO_SANITIZED_BUILD="$PWD/build/asan"
+cmake --build build/release
+
+step "build: the rules with address and undefined-behaviour sanitizers"
+cmake --preset asan
+cmake --build build/asan --target kern_tests
+
+step "test"
+ctest --test-dir build/release --output-on-failure --parallel "$(nproc)" --no-tests=error

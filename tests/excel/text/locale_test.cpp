@@ -1,0 +1,23 @@
+#include "excel/text/locale.h"
+
+#include <gtest/gtest.h>
+
+namespace tavelo {
+namespace {
+
+TEST(Landinstelling, is_nederlands_voor_een_onbekende_naam) {
+    EXPECT_EQ(locale_named("nl-NL").name, "nl-NL");
+    EXPECT_EQ(locale_named("xx-YY").name, "nl-NL");
+    EXPECT_EQ(locale_named("").name, "nl-NL");
+}
+
+TEST(Landinstelling, geeft_woorden_en_fouten_in_haar_taal) {
+    EXPECT_EQ(locale_named("nl-NL").true_word, "WAAR");
+    EXPECT_EQ(locale_named("nl-BE").false_word, "ONWAAR");
+    EXPECT_EQ(locale_named("en-US").true_word, "TRUE");
+    EXPECT_EQ(locale_named("nl-NL").errors[6], "#N/B");
+    EXPECT_EQ(locale_named("en-GB").errors[6], "#N/A");
+}
+
+} // namespace
+} // namespace tavelo

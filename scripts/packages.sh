@@ -19,9 +19,9 @@ packages_test=(
     libgtest-dev clang-format-14
 )
 
-# Only on request: benchmarks (scripts/bench.sh), fuzzing (scripts/fuzz.sh), the generator of the example workbook.
+# Only on request: benchmarks (scripts/bench.sh), fuzzing (scripts/fuzz.sh; <expected> needs clang 16), the example workbook.
 packages_bench=(libbenchmark-dev)
-packages_fuzz=(clang-14 libclang-rt-14-dev)
+packages_fuzz=(clang-16 libclang-rt-16-dev)
 packages_examples=(python3-xlsxwriter)
 
 # install_missing PACKAGE...: asks apt for what is not installed yet and stays silent when nothing is missing.

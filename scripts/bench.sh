@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# Builds and runs the benchmarks and prints their ratios: one line each, starting with "ratio". Meant for a quiet machine.
+#     scripts/bench.sh [BENCH...]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+# shellcheck source=scripts/packages.sh
+. scripts/packages.sh
+
+install_missing "${packages_run[@]}" "${packages_demo[@]}" "${packages_bench[@]}"
+cmake --preset release -DTAVELO_TESTS=OFF -DTAVELO_BENCH=ON
+cmake --build build/release --target bench tavelo
+
+benches=("$@")
+[ "${#benches[@]}" -gt 0 ] || mapfile -t benches < <(basename --multiple --suffix=.cpp bench/bench_*.cpp)
+for bench in "${benches[@]}"; do
+    echo "== $bench"
+    QT_QPA_PLATFORM=offscreen "build/release/bench/$bench" --benchmark_counters_tabular=true
+done

@@ -1,0 +1,256 @@
+"""A virtual display and what a person does with it: start a program, press keys, move the mouse, look.
+
+Nothing in here reaches into the program: windows are found by their caption, and what they show is read from pictures of
+the screen.
+"""
+
+import contextlib
+import os
+import re
+import shutil
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+LETTERTYPE = "/usr/share/fonts/truetype/liberation/LiberationSans-Regular.ttf"
+
+
+class Anders(Exception):
+    """The screen does not show what it should."""
+
+
+def wacht_tot(voorwaarde, wat, seconden=10.0):
+    """Looks again and again until `voorwaarde()` gives something true, and returns that."""
+    einde = time.monotonic() + seconden
+    while True:
+        uitkomst = voorwaarde()
+        if uitkomst:
+            return uitkomst
+        if time.monotonic() > einde:
+            raise Anders(f"na {seconden:g} s nog niet: {wat}")
+        time.sleep(0.1)
+
+
+class Beeld:
+    """A picture of the screen: pixels are (red, green, blue), areas (left, top, width, height)."""
+
+    def __init__(self, breedte, hoogte, rgb):
+        self.breedte, self.hoogte, self.rgb = breedte, hoogte, rgb
+
+    def kleur(self, x, y):
+        plaats = 3 * (y * self.breedte + x)
+        return tuple(self.rgb[plaats:plaats + 3])
+
+    def uitsnede(self, vlak):
+        links, boven, breedte, hoogte = self._binnen(vlak)
+        regels = (3 * (y * self.breedte + links) for y in range(boven, boven + hoogte))
+        return Beeld(breedte, hoogte, b"".join(self.rgb[plaats:plaats + 3 * breedte] for plaats in regels))
+
+    def _binnen(self, vlak):
+        links, boven = max(vlak[0], 0), max(vlak[1], 0)
+        return (links, boven, max(min(vlak[0] + vlak[2], self.breedte) - links, 0),
+                max(min(vlak[1] + vlak[3], self.hoogte) - boven, 0))
+
+    def __eq__(self, ander):
+        return (self.breedte, self.hoogte, self.rgb) == (ander.breedte, ander.hoogte, ander.rgb)
+
+    def aandeel(self, kleur):
+        """The share (0 to 1) of the pixels that have exactly this colour."""
+        gelijk = sum(self.rgb[i:i + 3] == bytes(kleur) for i in range(0, len(self.rgb), 3))
+        return gelijk / max(self.breedte * self.hoogte, 1)
+
+    def inktregels(self, achtergrond):
+        """The lines of text on a plain background, top to bottom, each as (left, top, width, height) of its ink.
+
+        Dots and accents that stand loose above a line belong to it.
+        """
+        leeg = bytes(achtergrond) * self.breedte
+        lijn = 3 * self.breedte
+        met_inkt = [self.rgb[y * lijn:(y + 1) * lijn] != leeg for y in range(self.hoogte)]
+        banden, begin = [], None
+        for y, inkt in enumerate(met_inkt + [False]):
+            if inkt and begin is None:
+                begin = y
+            elif not inkt and begin is not None:
+                banden.append([begin, y])
+                begin = None
+        return [self._inktvlak(boven, onder, bytes(achtergrond)) for boven, onder in self._voeg_samen(banden)]
+
+    @staticmethod
+    def _voeg_samen(banden):
+        hoogste = max((onder - boven for boven, onder in banden), default=0)
+        regels = []
+        for boven, onder in banden:
+            if regels and boven - regels[-1][1] < 0.15 * hoogste and onder - regels[-1][0] < 1.45 * hoogste:
+                regels[-1][1] = onder
+            else:
+                regels.append([boven, onder])
+        return regels
+
+    def _inktvlak(self, boven, onder, achtergrond):
+        links, rechts = self.breedte, 0
+        for y in range(boven, onder):
+            regel = self.rgb[3 * y * self.breedte:3 * (y + 1) * self.breedte]
+            for x in range(self.breedte):
+                if regel[3 * x:3 * x + 3] != achtergrond:
+                    links = min(links, x)
+                    break
+            for x in range(self.breedte - 1, -1, -1):
+                if regel[3 * x:3 * x + 3] != achtergrond:
+                    rechts = max(rechts, x + 1)
+                    break
+        return links, boven, rechts - links, onder - boven
+
+    def bewaar(self, pad):
+        subprocess.run(["convert", "-size", f"{self.breedte}x{self.hoogte}", "-depth", "8", "rgb:-", "-strip",
+                        f"png:{pad}"], input=self.rgb, check=True)
+
+
+def inktbreedte(tekst, punten):
+    """How many pixels wide the ink of a text is at this size (96 dpi), by another renderer than the program's."""
+    uitvoer = subprocess.run(
+        ["convert", "-font", LETTERTYPE, "-density", "96", "-pointsize", str(punten), f"label:{tekst}", "-trim",
+         "-format", "%w", "info:"], check=True, capture_output=True, text=True).stdout
+    return int(uitvoer)
+
+
+class Venster:
+    """A window of the program on the screen."""
+
+    def __init__(self, scherm, nummer):
+        self.scherm, self.nummer = scherm, nummer
+
+    def bijschrift(self):
+        return self.scherm.xdotool("getwindowname", self.nummer).strip()
+
+    def vlak(self):
+        """Its inner area on the screen."""
+        regels = dict(regel.split("=") for regel in
+                      self.scherm.xdotool("getwindowgeometry", "--shell", self.nummer).split())
+        return int(regels["X"]), int(regels["Y"]), int(regels["WIDTH"]), int(regels["HEIGHT"])
+
+    def activeer(self):
+        self.scherm.xdotool("windowactivate", "--sync", self.nummer)
+
+    def beeld(self):
+        return self.scherm.beeld().uitsnede(self.vlak())
+
+    def klik(self, x, y, knop=1):
+        """A click at a place inside the window."""
+        links, boven, _, _ = self.vlak()
+        self.scherm.xdotool("mousemove", "--sync", str(links + x), str(boven + y), "click", str(knop))
+
+    def heeft_rand(self):
+        """Whether the window manager drew a title bar around it."""
+        uitvoer = self.scherm.roep("xprop", "-id", self.nummer, "_NET_FRAME_EXTENTS")
+        return any(int(getal) for getal in re.findall(r"\d+", uitvoer.partition("=")[2]))
+
+
+class Scherm:
+    """A virtual display with a window manager and a home folder of its own, gone when it is closed."""
+
+    def __init__(self, breedte=1280, hoogte=800, omgeving=None):
+        self.breedte, self.hoogte = breedte, hoogte
+        self._taken = contextlib.ExitStack()
+        self.thuis = Path(tempfile.mkdtemp(prefix="tavelo-"))
+        self._taken.callback(shutil.rmtree, self.thuis, ignore_errors=True)
+        for map_ in ("config", "data", "cache", "runtime", "Documents"):
+            (self.thuis / map_).mkdir(mode=0o700)
+        self.omgeving = {
+            naam: waarde for naam, waarde in os.environ.items()
+            if not naam.startswith(("QT_", "XDG_", "WAYLAND", "DBUS", "DESKTOP", "LC_"))
+        } | {
+            "HOME": str(self.thuis), "XDG_CONFIG_HOME": str(self.thuis / "config"),
+            "XDG_DATA_HOME": str(self.thuis / "data"), "XDG_CACHE_HOME": str(self.thuis / "cache"),
+            "XDG_RUNTIME_DIR": str(self.thuis / "runtime"), "LANG": "C.UTF-8", "QT_QPA_PLATFORM": "xcb",
+            "TZ": "Europe/Amsterdam"
+        } | (omgeving or {})
+        self.omgeving["DISPLAY"] = self._start_server()
+        self._start_achtergrond("openbox", "--sm-disable")
+        wacht_tot(lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.roep("xprop", "-root"), "de vensterbeheerder")
+        # A pointer over a control colours it; between clicks it rests in a corner.
+        self.muis_weg()
+
+    def _start_server(self):
+        lees, schrijf = os.pipe()
+        server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(schrijf), "-screen", "0", f"{self.breedte}x{self.hoogte}x24", "-nolisten", "tcp"],
+            pass_fds=[schrijf], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self._taken.callback(self._stop, server)
+        os.close(schrijf)
+        with os.fdopen(lees) as pijp:
+            nummer = pijp.readline().strip()
+        if not nummer:
+            raise Anders("Xvfb start niet")
+        return f":{nummer}"
+
+    def _start_achtergrond(self, *opdracht):
+        proces = subprocess.Popen(opdracht, env=self.omgeving, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self._taken.callback(self._stop, proces)
+        return proces
+
+    @staticmethod
+    def _stop(proces):
+        proces.terminate()
+        with contextlib.suppress(subprocess.TimeoutExpired):
+            proces.wait(5)
+            return
+        proces.kill()
+        proces.wait()
+
+    def start(self, programma):
+        """Starts the program; it is ended with the display when it still runs by then."""
+        proces = subprocess.Popen([str(programma)], env=self.omgeving, cwd=self.thuis)
+        self._taken.callback(self._stop, proces)
+        return proces
+
+    def roep(self, *opdracht):
+        return subprocess.run(opdracht, env=self.omgeving, capture_output=True, text=True, check=False).stdout
+
+    def xdotool(self, *opdracht):
+        return self.roep("xdotool", *map(str, opdracht))
+
+    def toets(self, *toetsen):
+        self.xdotool("key", "--clearmodifiers", "--delay", "30", *toetsen)
+
+    def typ(self, tekst):
+        self.xdotool("type", "--delay", "20", "--", tekst)
+
+    def muis_weg(self):
+        self.xdotool("mousemove", "--sync", self.breedte - 2, self.hoogte - 2)
+
+    def vensters(self, bijschrift):
+        """The visible windows whose caption matches the whole regular expression."""
+        nummers = self.xdotool("search", "--onlyvisible", "--name", f"^({bijschrift})$").split()
+        return [Venster(self, nummer) for nummer in nummers]
+
+    def venster(self, bijschrift, seconden=15.0):
+        return wacht_tot(lambda: self.vensters(bijschrift), f"een venster '{bijschrift}'", seconden)[0]
+
+    def beeld(self):
+        rgb = subprocess.run(["import", "-silent", "-window", "root", "-depth", "8", "rgb:-"], env=self.omgeving,
+                             check=True, capture_output=True).stdout
+        return Beeld(self.breedte, self.hoogte, rgb)
+
+    def rustig_beeld(self, seconden=10.0):
+        """A picture of the screen once two in a row are the same."""
+        vorig = self.beeld()
+
+        def rustig():
+            nonlocal vorig
+            time.sleep(0.15)
+            nu = self.beeld()
+            gelijk, vorig = nu == vorig, nu
+            return gelijk
+        wacht_tot(rustig, "een rustig beeld", seconden)
+        return vorig
+
+    def sluit(self):
+        self._taken.close()
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.sluit()

@@ -1,0 +1,48 @@
+#include "platform/fonts.h"
+
+#include "platform/qt_text.h"
+
+#include <QPaintDevice>
+
+namespace tavelo {
+
+namespace {
+
+constexpr int reference_pixels = 1000;
+constexpr double twips_per_reference_pixel = twips_per_pixel * pixels_per_point / reference_pixels;
+
+QFont unhinted_font(std::string_view family) {
+    QFont font;
+    if (!family.empty()) font.setFamily(qt_text(family));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(QFont::PreferAntialias);
+    return font;
+}
+
+} // namespace
+
+QFont display_font(std::string_view family, double points, const QPaintDevice& device) {
+    QFont font = unhinted_font(family);
+    font.setPointSizeF(points * pixels_per_point * 72.0 / device.logicalDpiY());
+    return font;
+}
+
+double FontTextMeasure::width(std::string_view font, double points, std::string_view text) const {
+    return metrics(font).horizontalAdvance(qt_text(text)) * twips_per_reference_pixel * points;
+}
+
+double FontTextMeasure::height(std::string_view font, double points) const {
+    return metrics(font).height() * twips_per_reference_pixel * points;
+}
+
+const QFontMetricsF& FontTextMeasure::metrics(std::string_view font) const {
+    auto found = metrics_.find(font);
+    if (found == metrics_.end()) {
+        QFont reference = unhinted_font(font);
+        reference.setPixelSize(reference_pixels);
+        found = metrics_.emplace(std::string(font), QFontMetricsF(reference)).first;
+    }
+    return found->second;
+}
+
+} // namespace tavelo

@@ -64,27 +64,28 @@ std::optional<Integer> fitted(double value) {
 
 } // namespace
 
-double leading_number(std::string_view text) {
+double leading_number(std::string_view text) { return number_in(text).value_or(0); }
+
+std::optional<double> number_in(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return 0;
+    if (first == std::string_view::npos) return std::nullopt;
     text.remove_prefix(first);
     if (text.size() >= 2 && text[0] == '&') {
         if (text[1] == 'H' || text[1] == 'h') return unsigned_in_base(text.substr(2), 16);
         if (text[1] == 'O' || text[1] == 'o') return unsigned_in_base(text.substr(2), 8);
-        return 0;
+        return std::nullopt;
     }
     const bool negative = text[0] == '-';
     if (negative || text[0] == '+') text.remove_prefix(1);
-    const std::size_t length = decimal_length(text);
+    text = text.substr(0, decimal_length(text));
+    if (text.empty()) return std::nullopt;
     double value = 0;
-    if (length > 0) {
-        const auto result = std::from_chars(text.data(), text.data() + length, value);
-        // Too large is infinity, which fits no field; too small is zero. from_chars leaves the value for both.
-        if (result.ec == std::errc::result_out_of_range) {
-            const std::size_t exponent = text.substr(0, length).find_first_of("eE");
-            const bool tiny = exponent != std::string_view::npos && text[exponent + 1] == '-';
-            value = tiny ? 0 : std::numeric_limits<double>::infinity();
-        }
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec == std::errc::result_out_of_range) {
+        // from_chars leaves the value alone: too small is zero, too large infinity, which fits no field.
+        const std::size_t exponent = text.find_first_of("eE");
+        const bool tiny = exponent != std::string_view::npos && text[exponent + 1] == '-';
+        value = tiny ? 0 : std::numeric_limits<double>::infinity();
     }
     return negative ? -value : value;
 }

@@ -13,6 +13,8 @@ namespace tavelo {
 // ("1e3" is 1000). "&H" and "&O" in either case introduce an unsigned hexadecimal or octal integer; a sign before them
 // gives 0. A blank inside ends the number, a leading tab gives 0, a text without a number gives 0.
 [[nodiscard]] double leading_number(std::string_view text);
+// The same, but nothing for a text without a number.
+[[nodiscard]] std::optional<double> number_in(std::string_view text);
 
 // To the nearest integer, halves to the even neighbour.
 [[nodiscard]] double round_half_even(double value);

@@ -3,11 +3,9 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tavelo {
 
@@ -39,6 +37,12 @@ class MessageBox {
   public:
     virtual ~MessageBox() = default;
     virtual void show(std::string_view text) = 0;
+};
+
+// Shows nothing: for work that nobody asked for, such as a re-read.
+class SilentMessages final : public MessageBox {
+  public:
+    void show(std::string_view) override {}
 };
 
 // The common file-open dialog.

@@ -125,6 +125,17 @@ std::vector<std::string_view> split(std::string_view text, std::string_view sepa
     }
 }
 
+std::optional<std::string_view> take_part(std::optional<std::string_view>& rest, char separator) {
+    if (!rest) return std::nullopt;
+    const std::size_t at = rest->find(separator);
+    const std::string_view part = rest->substr(0, at);
+    if (at == std::string_view::npos)
+        rest.reset();
+    else
+        rest->remove_prefix(at + 1);
+    return part;
+}
+
 std::string join(std::span<const std::string> parts, std::string_view separator) {
     std::string result;
     for (const std::string& part : parts) {

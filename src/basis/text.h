@@ -2,6 +2,7 @@
 // letters of Windows-1252 one to one (é/É, ÿ/Ÿ, š/Š), whatever the locale of the computer; ß stays.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -18,6 +19,9 @@ namespace tavelo {
 [[nodiscard]] std::string removed(std::string_view text, std::string_view part);
 // Views on `text`; a text without the separator gives one part, an empty text one empty part.
 [[nodiscard]] std::vector<std::string_view> split(std::string_view text, std::string_view separator);
+// Takes the part before the next separator off the front of `rest`; nothing once the last part is taken. Walks a text
+// of any size without building a list. Start with `std::optional rest = text`.
+[[nodiscard]] std::optional<std::string_view> take_part(std::optional<std::string_view>& rest, char separator);
 [[nodiscard]] std::string join(std::span<const std::string> parts, std::string_view separator);
 // The last `count` bytes; used for texts of digits.
 [[nodiscard]] std::string_view last(std::string_view text, std::size_t count);

@@ -2,9 +2,22 @@
 
 #include "basis/text.h"
 
-#include <vector>
+#include <span>
 
 namespace tavelo {
+
+namespace {
+
+// `sleutel_van(item) == sleutel`, without making a text of every key: folding keeps the length of a key in plain
+// letters.
+bool heeft_sleutel(std::string_view item, std::string_view sleutel) {
+    const std::size_t colon = item.find(':');
+    if (colon == std::string_view::npos) return sleutel.empty();
+    const std::string_view gevonden = trimmed(item.substr(0, colon));
+    return gevonden.size() == sleutel.size() && lower_case(gevonden) == sleutel;
+}
+
+} // namespace
 
 std::string sleutel_van(std::string_view item) {
     const std::size_t colon = item.find(':');
@@ -31,29 +44,47 @@ std::string_view zoek_waarde(std::string_view sleutel, std::string_view record) 
     }
 }
 
-std::string zet_waarde(std::string_view sleutel, std::string_view record, std::string_view waarde) {
-    std::string nieuw(sleutel);
-    nieuw.append(":").append(waarde);
+RecordItems::RecordItems(std::string_view record) : rest_(record) {
+    while (aantal_ < items_.size()) {
+        const std::optional<std::string_view> item = take_part(rest_, '\t');
+        if (!item) return;
+        const std::size_t colon = item->find(':');
+        if (colon == std::string_view::npos) continue;
+        items_[aantal_++] = {item->substr(0, colon), item->substr(colon + 1)};
+    }
+}
 
+std::string_view RecordItems::waarde(std::string_view sleutel) const {
+    for (const Item& item : std::span(items_).first(aantal_))
+        if (item.sleutel == sleutel) return item.waarde;
+    return rest_ ? zoek_waarde(sleutel, *rest_) : std::string_view();
+}
+
+std::string zet_waarde(std::string_view sleutel, std::string_view record, std::string_view waarde) {
+    std::string resultaat;
+    resultaat.reserve(record.size() + sleutel.size() + waarde.size() + 2);
+    const auto voeg_toe = [&](auto... delen) {
+        resultaat.push_back('\t');
+        (resultaat.append(delen), ...);
+    };
+    const bool leeg = trimmed(waarde).empty();
     bool gevonden = false;
-    std::vector<std::string> items;
-    for (const std::string_view deel : split(record, "\t")) {
-        const std::string_view item = trimmed(deel);
-        if (sleutel_van(item) != sleutel) {
-            items.emplace_back(item);
+    std::optional rest = record;
+    while (const std::optional<std::string_view> deel = take_part(rest, '\t')) {
+        const std::string_view item = trimmed(*deel);
+        if (!heeft_sleutel(item, sleutel)) {
+            voeg_toe(item);
             continue;
         }
         gevonden = true;
-        if (!trimmed(waarde).empty()) items.push_back(nieuw);
+        if (!leeg) voeg_toe(sleutel, ":", waarde);
     }
-    if (!gevonden && !waarde.empty()) items.push_back(nieuw);
+    if (!gevonden && !waarde.empty()) voeg_toe(sleutel, ":", waarde);
 
-    std::string_view resultaat;
-    const std::string samen = join(items, "\t");
-    resultaat = samen;
-    if (resultaat.starts_with('\t')) resultaat.remove_prefix(1);
-    if (resultaat.ends_with('\t')) resultaat.remove_suffix(1);
-    return std::string(resultaat);
+    resultaat.erase(0, 1); // the tab of the first item
+    if (resultaat.starts_with('\t')) resultaat.erase(0, 1);
+    if (resultaat.ends_with('\t')) resultaat.pop_back();
+    return resultaat;
 }
 
 std::string klasse_tekst(std::string_view tekst) {

@@ -1,7 +1,9 @@
 // Records are tab-separated lists of "key:value" items.
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,6 +16,24 @@ namespace tavelo {
 
 // The value of the first item whose key is exactly `sleutel`, up to the next tab, not trimmed; "" when there is none.
 [[nodiscard]] std::string_view zoek_waarde(std::string_view sleutel, std::string_view record);
+
+// A record cut into its items once, to look several keys up; `waarde` answers as `zoek_waarde` does for a key without
+// ":" or tab. Views on the record, which must outlive it.
+class RecordItems {
+  public:
+    RecordItems(std::string_view record); // implicit: a record's text stands for its items
+    [[nodiscard]] std::string_view waarde(std::string_view sleutel) const;
+    [[nodiscard]] bool staat_aan(std::string_view sleutel) const { return waarde(sleutel) == "1"; }
+
+  private:
+    struct Item {
+        std::string_view sleutel;
+        std::string_view waarde;
+    };
+    std::array<Item, 64> items_; // more than the suite writes; what follows is searched where it stands
+    std::size_t aantal_ = 0;
+    std::optional<std::string_view> rest_;
+};
 
 // The record with the value of every item of that key replaced, or the items dropped when `waarde` is blank. Without
 // such an item a value that is not empty is added at the end. Items come out trimmed, joined by single tabs; one

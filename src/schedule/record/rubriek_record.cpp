@@ -128,6 +128,7 @@ RubriekRecord rubriek_met_standaardwaarden() {
 
 std::expected<void, std::string> zet_rubriek_veld(RubriekRecord& rubriek, std::string_view sleutel,
                                                   std::string_view waarde) {
+    if (!sleutel.starts_with('r')) return {}; // all keys do
     for (const RubriekVeld& veld : velden) {
         if (const auto* tekst = std::get_if<std::string R::*>(&veld.veld)) {
             if (sleutel != veld.sleutel) continue;
@@ -159,11 +160,12 @@ std::expected<void, std::string> zet_rubriek_veld(RubriekRecord& rubriek, std::s
 std::span<const RubriekLijstVeld> rubriek_lijst_velden() { return lijst_velden; }
 
 std::expected<void, std::string> lees_rubriek_lijst(std::string_view record, RubriekLijstRecord& entry) {
-    for (const std::string_view item : split(record, "\t")) {
-        const std::size_t colon = item.find(':');
+    std::optional rest = record;
+    while (const std::optional<std::string_view> item = take_part(rest, '\t')) {
+        const std::size_t colon = item->find(':');
         if (colon == std::string_view::npos) continue;
-        const std::string sleutel = sleutel_van(item);
-        const std::string_view waarde = item.substr(colon + 1);
+        const std::string sleutel = sleutel_van(*item);
+        const std::string_view waarde = item->substr(colon + 1);
         for (const RubriekLijstVeld& veld : lijst_velden) {
             if (veld.sleutel != sleutel) continue;
             if (const auto* tekst = std::get_if<std::string L::*>(&veld.veld))

@@ -1,0 +1,112 @@
+#include "schedule/codeCombinaties.h"
+
+#include "basis/codeDatumTijd.h"
+#include "basis/number.h"
+#include "basis/text.h"
+#include "vocabulary/codeTaal.h"
+
+#include <algorithm>
+
+namespace tavelo {
+
+namespace {
+
+struct TekstVeld {
+    std::string_view sleutel;
+    std::string CombinatieRecord::*veld;
+};
+using C = CombinatieRecord;
+constexpr std::array tekst_velden = std::to_array<TekstVeld>({
+    {"type", &C::type},       {"co", &C::co},           {"pe_nr", &C::pe_nr},     {"na", &C::na},
+    {"gebdat", &C::gebdat},   {"gesl", &C::gesl},       {"ad", &C::ad},           {"pc", &C::pc},
+    {"wp", &C::wp},           {"ld", &C::ld},           {"di_nr", &C::di_nr},     {"pa", &C::pa},
+    {"va", &C::va},           {"mo", &C::mo},           {"di_kl", &C::di_kl},     {"di_gs", &C::di_gs},
+    {"di_gb", &C::di_gb},     {"ei", &C::ei},           {"di_fok", &C::di_fok},   {"di_st", &C::di_st},
+    {"di_stna", &C::di_stna}, {"di_stnr", &C::di_stnr}, {"di_chip", &C::di_chip}, {"ca", &C::ca},
+    {"ve_nr", &C::ve_nr},     {"ve", &C::ve},           {"ve_pl", &C::ve_pl},     {"kr", &C::kr},
+});
+
+using Sleutels = std::array<std::string_view, 4>;
+struct GetalVeld {
+    Sleutels sleutels;
+    C::PerDiscipline<std::int16_t> C::*veld;
+};
+constexpr std::array getal_velden = std::to_array<GetalVeld>({
+    {{"da", "sa", "mda", "mva"}, &C::a},
+    {{"dh", "sh", "mdh", "mvh"}, &C::handicap},
+    {{"d_coup", "s_coup", "md_coup", "mv_coup"}, &C::coup},
+    {{"d_af", "s_af", "md_af", "mv_af"}, &C::af},
+    {{"d_res", "s_res", "md_res", "mv_res"}, &C::res},
+    {{"d_sel", "s_sel", "md_sel", "mv_sel"}, &C::sel},
+    {{"d_gr", "s_gr", "md_gr", "mv_gr"}, &C::gr},
+    {{"d_kur", "s_kur", "md_kur", "mv_kur"}, &C::kur},
+    {{"d_flex", "s_flex", "md_flex", "mv_flex"}, &C::flex},
+});
+constexpr Sleutels klasse_sleutels = {"dk", "sk", "mdk", "mvk"};
+constexpr Sleutels dagen_sleutels = {"dr_dagen", "sp_dagen", "medr_dagen", "meva_dagen"};
+
+std::string_view geslacht_woord(std::string_view code) {
+    if (code == "H" || code == "S") return "Hengst";
+    if (code == "M") return "Merrie";
+    if (code == "R" || code == "G") return "Ruin";
+    return "";
+}
+
+struct Datum {
+    double jaar = 0;
+    double maand = 1;
+    double dag = 1;
+};
+
+// One part is a year, two are month and year, three or more begin with day, month and year.
+Datum lees_datum(std::string_view tekst) {
+    const std::vector<std::string_view> delen = split(tekst, "-");
+    const auto deel = [&](std::size_t i) { return leading_number(delen[i]); };
+    if (delen.size() == 1) return {deel(0)};
+    if (delen.size() == 2) return {deel(1), deel(0)};
+    return {deel(2), deel(1), deel(0)};
+}
+
+} // namespace
+
+std::string hoofdstelnummer(int n, const RecordItems& record, bool hoofdstelnummerautomatisch) {
+    if (n == 0) return "";
+    if (const std::string_view hnr = record.waarde("hnr"); !hnr.empty()) return std::string(hnr);
+    std::string afgeleid;
+    if (hoofdstelnummerautomatisch)
+        std::ranges::copy_if(record.waarde("co"), std::back_inserter(afgeleid),
+                             [](char c) { return c >= '0' && c <= '9'; });
+    if (afgeleid.empty()) afgeleid = std::to_string(n);
+    return std::string(last(afgeleid, 3));
+}
+
+void lees_combinatie(CombinatieRecord& entry, int n, const Schedule& schedule, const Clock& klok) {
+    if (n < 0 || n > hoogste_deelnemer) return;
+    const RecordItems record(schedule.deelnemer(n));
+    entry.nr = std::to_string(n);
+    entry.hnr = hoofdstelnummer(n, record, schedule.hoofdstelnummerautomatisch);
+    for (const TekstVeld& veld : tekst_velden)
+        entry.*veld.veld = record.waarde(veld.sleutel);
+    for (std::size_t discipline = 0; discipline < klasse_sleutels.size(); ++discipline) {
+        entry.klasse[discipline] = upper_case(record.waarde(klasse_sleutels[discipline]));
+        entry.dagen[discipline] = record.waarde(dagen_sleutels[discipline]);
+        for (const GetalVeld& veld : getal_velden)
+            (entry.*veld.veld)[discipline] = int16_of(record.waarde(veld.sleutels[discipline])).value_or(0);
+    }
+    entry.naam_zonder_ster = removed(entry.na, "*");
+    entry.geslacht = vertaal(geslacht_woord(entry.di_gs));
+    entry.leeftijd = leeftijd_van(entry.di_gb, datum_tijd_tekst(klok.now(), "d-m-yyyy"));
+}
+
+std::string leeftijd_van(std::string_view geboortedatum, std::string_view vandaag) {
+    if (geboortedatum.empty() || vandaag.empty()) return "";
+    const Datum geboren = lees_datum(geboortedatum);
+    const Datum nu = lees_datum(vandaag);
+    double jaren = nu.jaar - geboren.jaar;
+    double maanden = nu.maand - geboren.maand;
+    if (nu.dag - geboren.dag < 0) maanden -= 1;
+    if (maanden < 0) jaren -= 1;
+    return number_text(jaren);
+}
+
+} // namespace tavelo

@@ -1,0 +1,189 @@
+#include "schedule/herlees_rooster.h"
+
+#include "basis/number.h"
+#include "basis/text.h"
+#include "schedule/lees_rooster.h"
+#include "schedule/record/items.h"
+#include "schedule/record/kolommen.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+namespace tavelo {
+
+namespace {
+
+constexpr std::array vergeleken_kolommen = {kolom_cnr,   kolom_naam,       kolom_hc, kolom_paard,
+                                            kolom_vader, kolom_vereniging, kolom_kl, kolom_cat};
+
+double nummer_van(const Grid& grid, int rij) { return leading_number(grid.text(rij, kolom_inr)); }
+
+// A change of letter case, of "(HC)" or of double spaces in a name is no change.
+std::string naam_voor_vergelijking(std::string_view naam) {
+    const std::string zonder = replaced(removed(naam, "(HC)"), "  ", " ");
+    return lower_case(trimmed(zonder));
+}
+
+bool is_anders(int kolom, const std::string& oud, const std::string& nieuw) {
+    if (oud == nieuw) return false;
+    switch (kolom) {
+    case kolom_cnr:
+        return !nieuw.empty();
+    case kolom_naam:
+        return naam_voor_vergelijking(oud) != naam_voor_vergelijking(nieuw);
+    default:
+        return lower_case(oud) != lower_case(nieuw);
+    }
+}
+
+// Finds rows by number while rows are inserted. Where a number stands more than once the first row counts. Rows are
+// inserted from the top down, so the ones inserted so far never move; an older row moves down by the inserted rows
+// above it.
+class RijenIndex {
+  public:
+    explicit RijenIndex(const Grid& grid) {
+        oude_rijen_.reserve(static_cast<std::size_t>(grid.rows()));
+        for (int rij = 1; rij < grid.rows(); ++rij)
+            if (const double nummer = nummer_van(grid, rij); nummer > 0) oude_rijen_.emplace(nummer, rij);
+    }
+
+    [[nodiscard]] std::optional<int> zoek(double nummer) const {
+        if (const auto nieuw = nieuwe_rijen_.find(nummer); nieuw != nieuwe_rijen_.end()) return nieuw->second;
+        const auto oud = oude_rijen_.find(nummer);
+        if (oud == oude_rijen_.end()) return std::nullopt;
+        const auto boven = std::ranges::upper_bound(eerste_verschoven_, oud->second);
+        return oud->second + static_cast<int>(boven - eerste_verschoven_.begin());
+    }
+
+    // `rij` is beyond every row inserted before.
+    void ingevoegd(double nummer, int rij) {
+        eerste_verschoven_.push_back(rij - static_cast<int>(eerste_verschoven_.size()));
+        nieuwe_rijen_.emplace(nummer, rij);
+    }
+
+  private:
+    std::unordered_map<double, int> oude_rijen_; // position before the merge
+    std::unordered_map<double, int> nieuwe_rijen_;
+    std::vector<int> eerste_verschoven_; // of each inserted row: the first older row, as it stood, that it moved down
+};
+
+// Assembles the lines of the report; without a listener there is nothing to assemble.
+class Verslag {
+  public:
+    explicit Verslag(WijzigingenLijst* lijst) : lijst_(lijst) {}
+
+    void begin_rij() {
+        if (!lijst_) return;
+        van_ = "gewijzigd\tvan";
+        naar_ = "\tnaar";
+    }
+    void kolom(std::string_view oud, std::string_view nieuw) {
+        if (!lijst_) return;
+        van_.append("\t").append(oud);
+        naar_.append("\t").append(nieuw);
+    }
+    void einde_rij() {
+        if (!lijst_) return;
+        lijst_->regel(van_);
+        lijst_->regel(naar_);
+    }
+    void hele_rij(std::string_view woord, const Grid& grid, int rij) {
+        if (!lijst_) return;
+        std::string regel(woord);
+        regel.append("\t");
+        for (int kolom = kolom_naam; kolom <= kolom_cat; ++kolom)
+            regel.append("\t").append(grid.text(rij, kolom));
+        lijst_->regel(regel);
+    }
+
+  private:
+    WijzigingenLijst* lijst_;
+    std::string van_;
+    std::string naar_;
+};
+
+class Samenvoeging {
+  public:
+    Samenvoeging(Grid& doel, const Grid& bron, Schedule& schedule, WijzigingenLijst* wijzigingen)
+        : doel_(doel), bron_(bron), schedule_(schedule), verslag_(wijzigingen), index_(doel) {}
+
+    void voer_uit() {
+        for (int rij = 1; rij < bron_.rows(); ++rij) {
+            const double nummer = leading_number(trimmed(bron_.text(rij, kolom_inr)));
+            if (nummer <= 0) continue; // pauses take no part
+            if (const std::optional<int> gevonden = index_.zoek(nummer))
+                werk_bij(*gevonden, rij, nummer);
+            else
+                voeg_in(rij, nummer);
+        }
+        verwijder_overschot();
+    }
+
+  private:
+    void werk_bij(int doelrij, int bronrij, double nummer) {
+        verslag_.begin_rij();
+        for (const int kolom : vergeleken_kolommen) {
+            const std::string oud = doel_.text(doelrij, kolom);
+            const std::string& nieuw = bron_.text(bronrij, kolom);
+            const bool anders = is_anders(kolom, oud, nieuw);
+            if (anders) doel_.set_text(doelrij, kolom, nieuw);
+            if (kolom == kolom_cnr && !anders) bewaar_cnr(nummer, oud);
+            verslag_.kolom(oud, anders ? nieuw : oud);
+        }
+        verslag_.einde_rij();
+        doel_.set_text(doelrij, kolom_hnr, bron_.text(bronrij, kolom_hnr));
+        doel_.set_row_value(doelrij, bronrij);
+    }
+
+    // The display shows the same number as the grid.
+    void bewaar_cnr(double nummer, std::string_view cnr) {
+        const std::optional<std::int32_t> n = to_int32(nummer);
+        if (!n || *n > hoogste_deelnemer) return;
+        schedule_.zet_deelnemer(*n, zet_waarde("co", schedule_.deelnemer(*n), cnr));
+    }
+
+    void voeg_in(int bronrij, double nummer) {
+        std::vector<std::string> teksten;
+        for (int kolom = 0; kolom < bron_.columns(); ++kolom)
+            teksten.push_back(bron_.text(bronrij, kolom));
+        const int plaats = std::min(bronrij, doel_.rows()); // beyond the end: nothing new is lost
+        doel_.insert_row(plaats, teksten);
+        index_.ingevoegd(nummer, plaats);
+        verslag_.hele_rij("toegevoegd", bron_, bronrij);
+    }
+
+    void verwijder_overschot() {
+        for (int rij = bron_.rows(); rij < doel_.rows(); ++rij)
+            if (nummer_van(doel_, rij) != 0) verslag_.hele_rij("verwijderd", doel_, rij);
+        while (doel_.rows() > bron_.rows())
+            doel_.remove_row(doel_.rows() - 1);
+    }
+
+    Grid& doel_;
+    const Grid& bron_;
+    Schedule& schedule_;
+    Verslag verslag_;
+    RijenIndex index_;
+};
+
+} // namespace
+
+void voeg_rooster_samen(Grid& doel, const Grid& bron, Schedule& schedule, WijzigingenLijst* wijzigingen) {
+    Samenvoeging(doel, bron, schedule, wijzigingen).voer_uit();
+}
+
+bool herlees_rooster(std::string_view pad, const RoosterDoel& doel, Grid& grdImport, WijzigingenLijst* wijzigingen) {
+    const std::expected<std::string, GeenRooster> bytes = open_roosterbestand(pad);
+    if (!bytes) return false;
+    SilentMessages geen_berichten; // nobody asked for this read
+    doel.schedule.wis_tabellen();
+    lees_regels(*bytes, doel.schedule, geen_berichten, doel.logboek);
+    vul_rooster({grdImport, doel.schedule, doel.labels, geen_berichten, doel.logboek}, doel.schedule.rubriek_record);
+    voeg_rooster_samen(doel.grid, grdImport, doel.schedule, wijzigingen);
+    return true;
+}
+
+} // namespace tavelo

@@ -1,0 +1,160 @@
+#include "schedule/lees_rooster.h"
+
+#include "basis/codeBestand.h"
+#include "basis/number.h"
+#include "basis/text.h"
+#include "schedule/record/items.h"
+
+#include <optional>
+
+namespace tavelo {
+
+namespace {
+
+constexpr std::string_view eerste_regel = "[Vendalo 3.4]";
+
+// Takes the line in front off `rest`, without its end.
+std::string_view neem_regel(std::string_view& rest) {
+    const std::size_t einde = rest.find_first_of("\r\n");
+    const std::string_view regel = rest.substr(0, einde);
+    if (einde == std::string_view::npos) {
+        rest = {};
+        return regel;
+    }
+    const bool cr_lf = rest[einde] == '\r' && einde + 1 < rest.size() && rest[einde + 1] == '\n';
+    rest.remove_prefix(einde + (cr_lf ? 2 : 1));
+    return regel;
+}
+
+// Applies one line after the other.
+class Lezer {
+  public:
+    Lezer(Schedule& schedule, MessageBox& berichten, SkipLog& logboek)
+        : schedule_(schedule), berichten_(berichten), logboek_(logboek) {}
+
+    void lees(std::string_view regel) {
+        ++regelnummer_;
+        const std::size_t dubbele_punt = regel.find(':');
+        if (dubbele_punt == std::string_view::npos) return;
+        const std::string_view sleutel = regel.substr(0, dubbele_punt);
+        const std::string_view waarde = regel.substr(dubbele_punt + 1);
+        if (sleutel == "singlesignin") {
+            if (const std::optional<std::int16_t> getal = int16_of(waarde))
+                schedule_.singlesignin = *getal;
+            else
+                sla_over(sleutel, "getal past niet in 16 bits");
+        } else if (sleutel == "hoofdstelnummerautomatisch") {
+            lees_ja_nee(sleutel, waarde);
+        } else if (sleutel == "rubriek" || sleutel == "dnr" || sleutel == "rnr") {
+            lees_record(sleutel, waarde);
+        }
+    }
+
+  private:
+    void sla_over(std::string_view sleutel, std::string_view reden) { logboek_.skipped(regelnummer_, sleutel, reden); }
+
+    void lees_ja_nee(std::string_view sleutel, std::string_view waarde) {
+        const std::string tekst = lower_case(trimmed(waarde));
+        if (tekst == "true" || tekst == "false")
+            schedule_.hoofdstelnummerautomatisch = tekst == "true";
+        else if (const std::optional<double> getal = number_in(waarde))
+            schedule_.hoofdstelnummerautomatisch = *getal != 0;
+        else
+            sla_over(sleutel, "geen ja of nee");
+    }
+
+    void lees_record(std::string_view sleutel, std::string_view waarde) {
+        const std::size_t tab = waarde.find('\t');
+        if (tab == std::string_view::npos) return sla_over(sleutel, "regel zonder tab");
+        const std::optional<std::int16_t> nummer = int16_of(waarde.substr(0, tab));
+        const std::string_view record = waarde.substr(tab + 1);
+        if (!nummer) sla_over(sleutel, "nummer past niet in 16 bits");
+
+        if (sleutel == "rnr") {
+            if (nummer) schedule_.rubriek_nummer = *nummer;
+            schedule_.rubriek_record = from_windows_1252(record);
+        } else if (nummer && sleutel == "dnr") {
+            schedule_.laatste_dnr = *nummer;
+            if (*nummer < 0 || *nummer > hoogste_deelnemer) return sla_over(sleutel, "nummer buiten 0 tot 4000");
+            schedule_.zet_deelnemer(*nummer, from_windows_1252(record));
+        } else if (nummer) {
+            if (*nummer < 1 || *nummer > hoogste_rubriek) return sla_over(sleutel, "nummer buiten 1 tot 2000");
+            RubriekLijstRecord entry;
+            const auto gelezen = lees_rubriek_lijst(from_windows_1252(record), entry);
+            schedule_.zet_rubriek(*nummer, std::move(entry));
+            if (!gelezen) bericht(gelezen.error());
+        }
+    }
+
+    // The same message once for a file: an operator cannot click two thousand away.
+    void bericht(const std::string& tekst) {
+        if (tekst == laatste_bericht_) return;
+        laatste_bericht_ = tekst;
+        berichten_.show(tekst);
+    }
+
+    Schedule& schedule_;
+    MessageBox& berichten_;
+    SkipLog& logboek_;
+    std::size_t regelnummer_ = 1; // the first line is the file's mark
+    std::string laatste_bericht_;
+};
+
+std::string_view discipline_woord(std::int16_t ringtype) {
+    switch (discipline_van(ringtype)) {
+    case Discipline::dressuur:
+        return " dres.";
+    case Discipline::springen:
+        return " spr.";
+    case Discipline::mennen_dressuur:
+        return " mendr.";
+    case Discipline::mennen_vaardigheid:
+        return " menva.";
+    case Discipline::geen:
+        break;
+    }
+    return "";
+}
+
+} // namespace
+
+std::expected<std::string, GeenRooster> open_roosterbestand(std::string_view pad) {
+    std::optional<BestandInhoud> inhoud = lees_bestand_met_begin(pad, eerste_regel);
+    if (!inhoud) return std::unexpected(GeenRooster::niet_te_openen);
+    std::string_view rest = inhoud->bytes;
+    if (!inhoud->begin_klopt || neem_regel(rest) != eerste_regel)
+        return std::unexpected(GeenRooster::andere_eerste_regel);
+    inhoud->bytes.erase(0, inhoud->bytes.size() - rest.size());
+    return std::move(inhoud->bytes);
+}
+
+void lees_regels(std::string_view bytes, Schedule& schedule, MessageBox& berichten, SkipLog& logboek) {
+    schedule.singlesignin = 0;
+    schedule.rubriek_record.clear();
+    schedule.hoofdstelnummerautomatisch = false;
+    Lezer lezer(schedule, berichten, logboek);
+    while (!bytes.empty())
+        lezer.lees(neem_regel(bytes));
+}
+
+std::string rooster_bijschrift(const Schedule& schedule, std::string_view pad) {
+    const std::string_view record = schedule.rubriek_record;
+    constexpr std::string_view tussen = "     -     ";
+    std::string tekst = replaced(klasse_tekst(zoek_waarde("rkla", record)), ", ", "/");
+    tekst.append(discipline_woord(schedule.huidige_rubriek.rcom));
+    tekst.append(" cat ").append(removed(zoek_waarde("rcat", record), "*"));
+    tekst.append(tussen).append(pad).append(tussen).append(zoek_waarde("roms", record));
+    return tekst;
+}
+
+std::expected<std::string, GeenRooster> lees_rooster(std::string_view pad, const RoosterDoel& doel) {
+    const std::expected<std::string, GeenRooster> bytes = open_roosterbestand(pad);
+    if (!bytes) return std::unexpected(bytes.error());
+    lees_regels(*bytes, doel.schedule, doel.berichten, doel.logboek);
+    vul_rooster(doel, doel.schedule.rubriek_record);
+    doel.grid.set_row(1);
+    doel.grid.set_column(1);
+    return rooster_bijschrift(doel.schedule, pad);
+}
+
+} // namespace tavelo

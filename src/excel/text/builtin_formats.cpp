@@ -6,6 +6,8 @@ namespace {
 
 constexpr std::string_view short_date = "[$-x-shortdate]m/d/yy";
 constexpr std::string_view short_date_and_time = "[$-x-shortdatetime]m/d/yy h:mm";
+constexpr std::string_view short_time = "[$-x-shorttime]h:mm";
+constexpr std::string_view long_time = "[$-x-longtime]h:mm:ss";
 
 } // namespace
 
@@ -60,7 +62,7 @@ std::string_view builtin_format(unsigned id) {
         return "h:mm:ss AM/PM";
     case 20:
     case 76:
-        return "h:mm";
+        return short_time;
     // The East Asian dates and times of 27 to 36 and 50 to 58 are a plain date or time in the west; so are the Thai
     // ones.
     case 21:
@@ -69,7 +71,7 @@ std::string_view builtin_format(unsigned id) {
     case 34:
     case 35:
     case 77:
-        return "h:mm:ss";
+        return long_time;
     case 14:
     case 27:
     case 28:

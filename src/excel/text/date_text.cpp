@@ -207,7 +207,9 @@ std::string system_code(SystemFormat format, const Locale& locale) {
     case SystemFormat::short_date:
         return locale.short_date;
     case SystemFormat::short_date_and_time:
-        return locale.short_date + " h:mm";
+        return locale.short_date + ' ' + locale.short_time;
+    case SystemFormat::short_time:
+        return locale.short_time;
     case SystemFormat::long_date:
         return locale.long_date;
     case SystemFormat::long_time:

@@ -66,6 +66,8 @@ std::string_view language_of_tag(std::string_view tag) {
 SystemFormat system_format_of_tag(std::string_view tag) {
     if (tag == "x-shortdate") return SystemFormat::short_date;
     if (tag == "x-shortdatetime") return SystemFormat::short_date_and_time;
+    if (tag == "x-shorttime") return SystemFormat::short_time;
+    if (tag == "x-longtime") return SystemFormat::long_time;
     if (starts_with_word(tag, "f800") || starts_with_word(tag, "x-sysdate")) return SystemFormat::long_date;
     if (starts_with_word(tag, "f400") || starts_with_word(tag, "x-systime")) return SystemFormat::long_time;
     return SystemFormat::none;

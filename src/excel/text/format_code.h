@@ -62,7 +62,7 @@ struct FormatPiece {
 enum class SectionKind : std::uint8_t { literal, general, number, scientific, fraction, date };
 
 // Formats that the regional settings decide.
-enum class SystemFormat : std::uint8_t { none, short_date, short_date_and_time, long_date, long_time };
+enum class SystemFormat : std::uint8_t { none, short_date, short_date_and_time, short_time, long_date, long_time };
 
 enum class Comparison : std::uint8_t { less, less_or_equal, equal, not_equal, greater_or_equal, greater };
 

@@ -21,8 +21,9 @@ struct Locale {
     std::string am;
     std::string pm;
     std::string short_date; // format code of the system's short date, for built-in 14 and 22
+    std::string short_time; // of a 24-hour clock, for built-in 20 and 22
     std::string long_date;  // for [$-F800]
-    std::string long_time;  // for [$-F400]
+    std::string long_time;  // for [$-F400] and built-in 21
     std::string true_word;
     std::string false_word;
     // Error values in the order #NULL! #DIV/0! #VALUE! #REF! #NAME? #NUM! #N/A #GETTING_DATA

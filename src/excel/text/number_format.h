@@ -30,8 +30,8 @@ class NumberFormat {
     std::unique_ptr<const Parsed> parsed_;
 };
 
-// The code of a built-in format id; General for an id that has none. The ids that follow the system's short date (14,
-// 22 and the East Asian dates) give a code with a tag of our own, which shows Locale::short_date.
+// The code of a built-in format id; General for an id that has none. The ids that follow the system's dates and times
+// (14, 20 to 22, the East Asian ones) give a code with a tag of our own, which shows what the Locale has for them.
 [[nodiscard]] std::string_view builtin_format(unsigned id);
 
 } // namespace tavelo

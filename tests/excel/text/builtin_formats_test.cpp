@@ -44,6 +44,14 @@ TEST(Ingebouwde_opmaak, toont_datums_en_tijden) {
     EXPECT_EQ(shown_builtin(1.5, 46), "36:00:00");
 }
 
+TEST(Ingebouwde_opmaak, toont_een_tijd_met_de_voorloopnul_van_het_systeem) {
+    const double half_past_eight = 8.5 / 24;
+    EXPECT_EQ(shown(half_past_eight, builtin_format(20), "nl-NL"), "08:30");
+    EXPECT_EQ(shown(half_past_eight, builtin_format(21), "nl-NL"), "08:30:00");
+    EXPECT_EQ(shown_builtin(half_past_eight, 20), "08:30");
+    EXPECT_EQ(shown(half_past_eight, "h:mm", "nl-NL"), "8:30");
+}
+
 TEST(Ingebouwde_opmaak, toont_oosterse_datums_als_korte_datum) {
     EXPECT_EQ(shown_builtin(46346, 27), "11/20/26");
     EXPECT_EQ(shown_builtin(46346.63, 32), "15:07:12");

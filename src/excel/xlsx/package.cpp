@@ -52,6 +52,11 @@ std::expected<void, OpenFailure> Package::read(std::string_view part, const Sink
     const auto found = index_by_key_.find(part_key(part));
     if (found == index_by_key_.end()) return std::unexpected(OpenFailure::damaged);
 
+    zip_stat_t claimed{};
+    if (zip_stat_index(archive_.get(), found->second, 0, &claimed) == 0 && (claimed.valid & ZIP_STAT_SIZE) != 0 &&
+        claimed.size > largest_part)
+        return std::unexpected(OpenFailure::too_large);
+
     const std::unique_ptr<zip_file_t, CloseMember> member(zip_fopen_index(archive_.get(), found->second, 0));
     if (!member) {
         const int why = zip_error_code_zip(zip_get_error(archive_.get()));
@@ -60,7 +65,7 @@ std::expected<void, OpenFailure> Package::read(std::string_view part, const Sink
     }
 
     std::array<char, 64 * 1024> chunk{};
-    std::uint64_t unpacked = 0;
+    std::uint64_t unpacked = 0; // counted as well, because the claim can be a lie
     while (true) {
         const auto count = zip_fread(member.get(), chunk.data(), chunk.size());
         if (count < 0) return std::unexpected(OpenFailure::damaged);

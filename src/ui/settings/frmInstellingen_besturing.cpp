@@ -1,0 +1,107 @@
+#include "ui/settings/frmInstellingen_besturing.h"
+
+#include "ui/settings/instellingen_dialoog.h"
+
+#include <QFontDatabase>
+#include <QLineEdit>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+#include <QValidator>
+
+namespace tavelo {
+
+namespace {
+
+class KolomToets : public QValidator {
+  public:
+    using QValidator::QValidator;
+
+    [[nodiscard]] State validate(QString& text, int& /*position*/) const override {
+        text = text.toUpper();
+        return is_kolomkeuze(text.toStdString()) ? Acceptable : Invalid;
+    }
+};
+
+} // namespace
+
+KleurKnop::KleurKnop(QWidget* parent) : QPushButton(parent) {
+    // Enter is OK, also from here; the space bar opens the colours.
+    setAutoDefault(false);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void KleurKnop::zet_kleur(std::optional<std::int32_t> kleur) {
+    kleur_ = kleur;
+    QPalette palet;
+    if (kleur) palet.setColor(QPalette::Button, QColor(*kleur & 0xFF, (*kleur >> 8) & 0xFF, (*kleur >> 16) & 0xFF));
+    setPalette(palet);
+}
+
+QSize KleurKnop::sizeHint() const {
+    const int hoogte = QPushButton::sizeHint().height();
+    return {hoogte * 9 / 4, hoogte};
+}
+
+void KleurKnop::paintEvent(QPaintEvent* /*event*/) {
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.palette.setColor(QPalette::Button, parentWidget()->palette().color(QPalette::Button));
+    painter.drawControl(QStyle::CE_PushButtonBevel, option);
+
+    constexpr int rand = 4;
+    const QRect staal = rect().adjusted(rand, rand, -rand, -rand);
+    painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
+    if (kleur_) painter.setBrush(palette().color(QPalette::Button));
+    painter.drawRect(staal.adjusted(0, 0, -1, -1));
+    if (!kleur_) {
+        painter.drawLine(staal.topLeft(), staal.bottomRight());
+        painter.drawLine(staal.bottomLeft(), staal.topRight());
+    }
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        focus.rect = rect().adjusted(2, 2, -2, -2);
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+    }
+}
+
+KolomLijst::KolomLijst(QWidget* parent) : QComboBox(parent) {
+    for (const std::string& letter : kolomletters())
+        addItem(QString::fromStdString(letter));
+    setEditable(true);
+    setInsertPolicy(NoInsert);
+    setCompleter(nullptr);
+    setValidator(new KolomToets(this));
+    setMinimumContentsLength(5);
+    setMaxVisibleItems(13);
+    connect(this, &QComboBox::currentTextChanged, this, [this] { geeft_niets_ = false; });
+}
+
+std::optional<std::string> KolomLijst::kolom() const {
+    const std::string tekst = currentText().toStdString();
+    if (geeft_niets_ || !is_kolomkeuze(tekst)) return std::nullopt;
+    return tekst;
+}
+
+void KolomLijst::zet_kolom(const std::optional<std::string>& kolom) {
+    setCurrentIndex(kolom ? findText(QString::fromStdString(*kolom)) : -1);
+    if (currentIndex() < 0) clearEditText();
+    geeft_niets_ = !kolom;
+}
+
+QSize LettertypeTekenaar::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    // One height for all, so that the list need not load every font of the computer to lay itself out.
+    return {option.fontMetrics.horizontalAdvance(index.data().toString()), option.fontMetrics.height() * 8 / 5};
+}
+
+void LettertypeTekenaar::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const QString naam = index.data().toString();
+    const QList<QFontDatabase::WritingSystem> schriften = QFontDatabase::writingSystems(naam);
+    if (!schriften.isEmpty() && !schriften.contains(QFontDatabase::Latin)) return;
+    option->font.setFamily(naam);
+    option->fontMetrics = QFontMetrics(option->font);
+}
+
+} // namespace tavelo

@@ -48,18 +48,24 @@ void add_literal(FormatSection& section, std::string_view text) {
 
 // The language of a tag such as 413, 10413 or nl-NL; the leading digits of a long number choose calendar and numerals.
 std::string_view language_of_tag(std::string_view tag) {
+    struct Language {
+        unsigned number;
+        std::string_view prefix;
+        std::string_view name;
+    };
+    constexpr std::array<Language, 4> languages = {{
+        {0x07, "de-", "de-DE"},
+        {0x09, "en-", "en-US"},
+        {0x0C, "fr-", "fr-FR"},
+        {0x13, "nl-", "nl-NL"},
+    }};
+    constexpr unsigned long language_mask = 0x3FF;
     unsigned long number = 0;
     const auto [end, error] = std::from_chars(tag.data(), tag.data() + tag.size(), number, 16);
-    if (error == std::errc() && end == tag.data() + tag.size()) {
-        constexpr unsigned long language_mask = 0x3FF;
-        constexpr unsigned long english = 0x09;
-        constexpr unsigned long dutch = 0x13;
-        if ((number & language_mask) == english) return "en-US";
-        if ((number & language_mask) == dutch) return "nl-NL";
-        return {};
-    }
-    if (starts_with_word(tag, "en-")) return "en-US";
-    if (starts_with_word(tag, "nl-")) return "nl-NL";
+    const bool is_number = error == std::errc() && end == tag.data() + tag.size();
+    for (const Language& language : languages)
+        if (is_number ? (number & language_mask) == language.number : starts_with_word(tag, language.prefix))
+            return language.name;
     return {};
 }
 
@@ -259,21 +265,18 @@ class Lexer {
         case 'e':
             if (digit_seen_ && run == 1 && (after == '+' || after == '-'))
                 add(section, PieceKind::exponent, after, 2);
-            else if (!digit_seen_)
-                add_year(section, run);
             else
-                return false;
+                add(section, PieceKind::era_year, rest_.front(), run);
             return true;
         case 'a': // the weekday in codes from East Asia
             if (run < 3) return false;
             add(section, PieceKind::weekday, 0, run);
             return true;
         case 'b':
-            if (digit_seen_) return false;
-            if (run == 1 && (after == '1' || after == '2')) // chooses a calendar
+            if (run == 1 && !digit_seen_ && (after == '1' || after == '2')) // chooses a calendar
                 take(2);
             else
-                add(section, PieceKind::buddhist_year, 0, run);
+                add(section, PieceKind::era_year, rest_.front(), run);
             return true;
         case 'g': // an era, which western dates do not show
             if (digit_seen_ || (after != 'e' && after != 'y')) return false;
@@ -282,11 +285,6 @@ class Lexer {
         default:
             return false;
         }
-    }
-
-    void add_year(FormatSection& section, std::size_t letters) {
-        take(letters);
-        section.pieces.push_back({PieceKind::year, 0, 4, 0});
     }
 
     std::string_view rest_;
@@ -384,6 +382,13 @@ void settle_date(FormatSection& section) {
         case PieceKind::digit:
         case PieceKind::literal_digit:
             add_literal(section, std::string_view(&piece.symbol, 1));
+            break;
+        case PieceKind::era_year:
+            section.only_elapsed = false;
+            if (lower(piece.symbol) == 'b')
+                section.pieces.push_back({PieceKind::buddhist_year, 0, piece.count, 0});
+            else
+                section.pieces.push_back({PieceKind::year, 0, 4, 0});
             break;
         case PieceKind::comma:
             add_literal(section, ",");
@@ -492,6 +497,9 @@ class NumberSettler {
         case PieceKind::colon:
             add_literal(section_, ":");
             break;
+        case PieceKind::era_year:
+            add_literal(section_, std::string(piece.count, piece.symbol));
+            break;
         default:
             section_.pieces.push_back(piece);
         }
@@ -567,11 +575,19 @@ class NumberSettler {
     bool general_ = false;
 };
 
+bool shows_date(const FormatSection& section) {
+    if (section.system != SystemFormat::none) return true;
+    const auto has = [&section](auto matches) {
+        return std::any_of(section.pieces.begin(), section.pieces.end(),
+                           [matches](const FormatPiece& piece) { return matches(piece.kind); });
+    };
+    if (has(is_date_piece)) return true;
+    return has([](PieceKind kind) { return kind == PieceKind::era_year; }) &&
+           !has([](PieceKind kind) { return kind == PieceKind::digit || kind == PieceKind::general; });
+}
+
 void settle(FormatSection& section) {
-    const bool date = section.system != SystemFormat::none ||
-                      std::any_of(section.pieces.begin(), section.pieces.end(),
-                                  [](const FormatPiece& piece) { return is_date_piece(piece.kind); });
-    if (date)
+    if (shows_date(section))
         settle_date(section);
     else
         NumberSettler(section).settle();

@@ -50,6 +50,7 @@ enum class PieceKind : std::uint8_t {
     colon,
     percent,
     month_or_minute,
+    era_year, // e and b: a year only where no number is shown; `symbol` is the letter as written
 };
 
 struct FormatPiece {

@@ -69,10 +69,59 @@ Locale british() {
     return locale;
 }
 
+Locale german() {
+    return {
+        .name = "de-DE",
+        .decimal_separator = ",",
+        .thousands_separator = ".",
+        .date_separator = ".",
+        .time_separator = ":",
+        .months = {"Januar", "Februar", "März", "April", "Mai", "Juni", "Juli", "August", "September", "Oktober",
+                   "November", "Dezember"},
+        .short_months = {"Jan", "Feb", "Mrz", "Apr", "Mai", "Jun", "Jul", "Aug", "Sep", "Okt", "Nov", "Dez"},
+        .weekdays = {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"},
+        .short_weekdays = {"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"},
+        .am = "AM",
+        .pm = "PM",
+        .short_date = "dd.mm.yyyy",
+        .short_time = "hh:mm",
+        .long_date = "dddd, d. mmmm yyyy",
+        .long_time = "hh:mm:ss",
+        .true_word = "WAHR",
+        .false_word = "FALSCH",
+        .errors = {"#NULL!", "#DIV/0!", "#WERT!", "#BEZUG!", "#NAME?", "#ZAHL!", "#NV", "#DATEN_ABRUFEN"},
+    };
+}
+
+Locale french() {
+    return {
+        .name = "fr-FR",
+        .decimal_separator = ",",
+        .thousands_separator = "\u202F",
+        .date_separator = "/",
+        .time_separator = ":",
+        .months = {"janvier", "février", "mars", "avril", "mai", "juin", "juillet", "août", "septembre", "octobre",
+                   "novembre", "décembre"},
+        .short_months = {"janv.", "févr.", "mars", "avr.", "mai", "juin", "juil.", "août", "sept.", "oct.", "nov.",
+                         "déc."},
+        .weekdays = {"dimanche", "lundi", "mardi", "mercredi", "jeudi", "vendredi", "samedi"},
+        .short_weekdays = {"dim.", "lun.", "mar.", "mer.", "jeu.", "ven.", "sam."},
+        .am = "AM",
+        .pm = "PM",
+        .short_date = "dd/mm/yyyy",
+        .short_time = "hh:mm",
+        .long_date = "dddd d mmmm yyyy",
+        .long_time = "hh:mm:ss",
+        .true_word = "VRAI",
+        .false_word = "FAUX",
+        .errors = {"#NUL!", "#DIV/0!", "#VALEUR!", "#REF!", "#NOM?", "#NOMBRE!", "#N/A", "#OBTENTION_DONNEES"},
+    };
+}
+
 } // namespace
 
 const Locale& locale_named(std::string_view name) {
-    static const std::array<Locale, 4> known = {dutch(), american(), flemish(), british()};
+    static const std::array<Locale, 6> known = {dutch(), american(), flemish(), british(), german(), french()};
     for (const Locale& locale : known)
         if (locale.name == name) return locale;
     return known.front();

@@ -120,8 +120,26 @@ std::string NumberFormat::show_text(std::string_view text) const {
     const FormatSection& section = *parsed_->code.text;
     std::string out;
     for (const FormatPiece& piece : section.pieces) {
-        if (piece.kind == PieceKind::text || piece.kind == PieceKind::general) out += text;
-        if (piece.kind == PieceKind::literal) out += section.literal(piece);
+        switch (piece.kind) {
+        case PieceKind::text:
+        case PieceKind::general:
+            out += text;
+            break;
+        case PieceKind::literal:
+            out += section.literal(piece);
+            break;
+        case PieceKind::decimal_point:
+            out += '.';
+            break;
+        case PieceKind::date_separator:
+            out += '/';
+            break;
+        case PieceKind::time_separator:
+            out += ':';
+            break;
+        default:
+            break; // a value has no place in a text
+        }
     }
     return out;
 }

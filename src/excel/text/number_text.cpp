@@ -65,6 +65,24 @@ class PlaceFiller {
     bool surplus_is_out_ = false;
 };
 
+// Hands the digits behind the decimal point out, the first to the first placeholder.
+class DecimalsFiller {
+  public:
+    explicit DecimalsFiller(const Decimal& number) : number_(number) {}
+
+    void fill(std::string& out, char placeholder) {
+        if (next_ < number_.decimals())
+            out += number_.decimal_digit(next_);
+        else
+            add_padding(out, placeholder);
+        ++next_;
+    }
+
+  private:
+    const Decimal& number_;
+    std::int64_t next_ = 0;
+};
+
 void add_exponent(std::string& out, std::int64_t exponent, std::size_t least_digits) {
     out += exponent < 0 ? "E-" : "E+";
     const std::string digits = std::to_string(std::abs(exponent));
@@ -109,9 +127,9 @@ SizeText decimal_text(const FormatSection& section, double size, const Locale& l
     number.round(static_cast<std::int64_t>(section.decimal_places));
     PlaceFiller integer(number.integer_digits(), section.integer_places,
                         section.grouped ? std::string_view(locale.thousands_separator) : std::string_view());
+    DecimalsFiller decimals(number);
     SizeText shown{{}, number.is_zero()};
     std::string& out = shown.text;
-    std::int64_t decimals_out = 0;
     for (const FormatPiece& piece : section.pieces) {
         switch (piece.kind) {
         case PieceKind::integer_digit:
@@ -122,11 +140,7 @@ SizeText decimal_text(const FormatSection& section, double size, const Locale& l
             out += locale.decimal_separator;
             break;
         case PieceKind::decimal_digit:
-            if (decimals_out < number.decimals())
-                out += number.decimal_digit(decimals_out);
-            else
-                add_padding(out, piece.symbol);
-            ++decimals_out;
+            decimals.fill(out, piece.symbol);
             break;
         default:
             add_plain_piece(out, section, piece, size, locale);
@@ -158,9 +172,9 @@ std::string scientific_text(const FormatSection& section, double size, const Loc
     if (integer_digits.empty() && places > 0) integer_digits = "0";
     PlaceFiller integer(std::move(integer_digits), section.integer_places);
     PlaceFiller exponent_digits(std::to_string(std::abs(exponent)), section.exponent_places);
+    DecimalsFiller decimals(mantissa);
     std::string out;
-    std::int64_t decimals_out = 0;
-    char sign = 0;
+    char sign = 0; // still to be shown
     for (const FormatPiece& piece : section.pieces) {
         switch (piece.kind) {
         case PieceKind::integer_digit:
@@ -171,11 +185,7 @@ std::string scientific_text(const FormatSection& section, double size, const Loc
             out += locale.decimal_separator;
             break;
         case PieceKind::decimal_digit:
-            if (decimals_out < mantissa.decimals())
-                out += mantissa.decimal_digit(decimals_out);
-            else
-                add_padding(out, piece.symbol);
-            ++decimals_out;
+            decimals.fill(out, piece.symbol);
             break;
         case PieceKind::exponent:
             out += 'E';

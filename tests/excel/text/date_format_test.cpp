@@ -47,6 +47,8 @@ TEST(Datum, neemt_de_taal_van_de_code_als_die_bekend_is) {
     EXPECT_EQ(shown(a_friday, "[$-nl-NL]dddd"), "vrijdag");
     EXPECT_EQ(shown_in_dutch(a_friday, "[$-409]dddd d mmmm"), "Friday 20 November");
     EXPECT_EQ(shown_in_dutch(a_friday, "[$-en-US]mmm"), "Nov");
+    EXPECT_EQ(shown_in_dutch(a_friday, "[$-407]dddd, d. mmmm"), "Freitag, 20. November");
+    EXPECT_EQ(shown_in_dutch(a_friday - 100, "[$-80C]d mmmm"), "12 août");
     EXPECT_EQ(shown_in_dutch(a_friday, "[$-41D]mmmm"), "november");
 }
 

@@ -17,6 +17,8 @@ TEST(Landinstelling, geeft_woorden_en_fouten_in_haar_taal) {
     EXPECT_EQ(locale_named("en-US").true_word, "TRUE");
     EXPECT_EQ(locale_named("nl-NL").errors[6], "#N/B");
     EXPECT_EQ(locale_named("en-GB").errors[6], "#N/A");
+    EXPECT_EQ(locale_named("de-DE").true_word, "WAHR");
+    EXPECT_EQ(locale_named("fr-FR").errors[4], "#NOM?");
 }
 
 } // namespace

@@ -1,12 +1,21 @@
 // tavelo-dump: shows what the program reads in a file, for the helpdesk.
+//   tavelo-dump BESTAND                            a schedule, as one JSON object
+//     --daarna BESTAND2                              re-read over it, as the program does while it runs
+//     --nummer N                                     with the display of that number in an area of
+//     --breedte TWIPS --hoogte TWIPS                   this size
+//     --instelling sleutel=waarde                    with this setting; may be repeated
+//     --maat raster                                  measured by a fixed metric instead of this computer's fonts
 //   tavelo-dump --blad N [--land en-US] BESTAND    a sheet of an Excel workbook as CSV
+#include "dump_rooster.h"
+
+#include "basis/number.h"
+#include "excel/builtin_excel.h"
 #include "excel/open_workbook.h"
 #include "excel/sheet_csv.h"
-#include "excel/text/locale.h"
+#include "meter.h"
 
 #include <charconv>
 #include <iostream>
-#include <optional>
 #include <span>
 #include <string_view>
 
@@ -16,6 +25,62 @@ using namespace tavelo;
 
 constexpr int cannot_open = 1;
 constexpr int wrong_use = 2;
+
+struct Vraag {
+    DumpVraag rooster;
+    std::optional<std::size_t> blad;
+    std::string land = "nl-NL";
+    bool raster = false;
+};
+
+std::optional<std::size_t> sheet_number(std::string_view text) {
+    std::size_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc{} || end != text.data() + text.size() || number == 0) return std::nullopt;
+    return number;
+}
+
+bool neem_optie(Vraag& vraag, std::string_view optie, std::string_view waarde) {
+    if (optie == "--daarna") {
+        vraag.rooster.daarna = waarde;
+    } else if (optie == "--nummer") {
+        vraag.rooster.nummer = waarde;
+    } else if (optie == "--breedte") {
+        vraag.rooster.breedte = leading_number(waarde);
+    } else if (optie == "--hoogte") {
+        vraag.rooster.hoogte = leading_number(waarde);
+    } else if (optie == "--land") {
+        vraag.land = waarde;
+    } else if (optie == "--maat") {
+        vraag.raster = true;
+        return waarde == "raster";
+    } else if (optie == "--blad") {
+        vraag.blad = sheet_number(waarde);
+        return vraag.blad.has_value();
+    } else if (optie == "--instelling") {
+        const std::size_t is = waarde.find('=');
+        if (is == std::string_view::npos) return false;
+        vraag.rooster.instellingen.emplace_back(waarde.substr(0, is), waarde.substr(is + 1));
+    } else {
+        return false;
+    }
+    return true;
+}
+
+std::optional<Vraag> lees_vraag(std::span<char*> woorden) {
+    Vraag vraag;
+    for (std::size_t i = 1; i < woorden.size(); ++i) {
+        const std::string_view woord = woorden[i];
+        if (!woord.starts_with("--")) {
+            if (!vraag.rooster.bestand.empty()) return std::nullopt;
+            vraag.rooster.bestand = woord;
+        } else if (i + 1 >= woorden.size() || !neem_optie(vraag, woord, woorden[++i])) {
+            return std::nullopt;
+        }
+    }
+    if (vraag.rooster.bestand.empty()) return std::nullopt;
+    return vraag;
+}
 
 int dump_blad(std::string_view bestand, std::size_t blad, std::string_view land) {
     const auto workbook = open_workbook(bestand);
@@ -32,38 +97,27 @@ int dump_blad(std::string_view bestand, std::size_t blad, std::string_view land)
     return std::cout.flush() ? 0 : cannot_open;
 }
 
-std::optional<std::size_t> sheet_number(std::string_view text) {
-    std::size_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{} || end != text.data() + text.size() || number == 0) return std::nullopt;
-    return number;
-}
-
-int show_usage() {
-    std::cerr << "Gebruik: tavelo-dump --blad N [--land nl-NL] BESTAND\n";
+int toon_gebruik() {
+    std::cerr << "Gebruik: tavelo-dump [--daarna BESTAND2] [--nummer N --breedte TWIPS --hoogte TWIPS]\n"
+                 "                     [--instelling sleutel=waarde ...] [--maat raster] [--land nl-NL] BESTAND\n"
+                 "         tavelo-dump --blad N [--land nl-NL] BESTAND\n";
     return wrong_use;
 }
 
 } // namespace
 
-int main(int count, char** words) {
-    const std::span arguments(words, static_cast<std::size_t>(count));
-    std::optional<std::size_t> blad;
-    std::string_view land = "nl-NL";
-    std::string_view bestand;
-    for (std::size_t i = 1; i < arguments.size(); ++i) {
-        const std::string_view word = arguments[i];
-        const bool has_value = i + 1 < arguments.size();
-        if (word == "--blad" && has_value) {
-            blad = sheet_number(arguments[++i]);
-        } else if (word == "--land" && has_value) {
-            land = arguments[++i];
-        } else if (bestand.empty()) {
-            bestand = word;
-        } else {
-            return show_usage();
-        }
+int main(int aantal, char** woorden) {
+    const std::optional<Vraag> vraag = lees_vraag(std::span(woorden, static_cast<std::size_t>(aantal)));
+    if (!vraag) return toon_gebruik();
+    if (vraag->blad) return dump_blad(vraag->rooster.bestand, *vraag->blad, vraag->land);
+
+    // Without a number nothing is composed, so nothing is measured.
+    const bool raster = vraag->raster || !vraag->rooster.nummer;
+    const std::unique_ptr<TextMeasure> meter = raster ? raster_meter() : letter_meter(aantal, woorden);
+    if (!meter) {
+        std::cerr << "Deze tavelo-dump meet geen lettertypen; geef --maat raster op.\n";
+        return wrong_use;
     }
-    if (!blad || bestand.empty()) return show_usage();
-    return dump_blad(bestand, *blad, land);
+    const std::unique_ptr<ExcelApplication> excel = builtin_excel(locale_named(vraag->land));
+    return dump_rooster(vraag->rooster, *meter, *excel, std::cout) ? 0 : toon_gebruik();
 }

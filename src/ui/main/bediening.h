@@ -11,7 +11,7 @@ namespace tavelo {
 
 // Not owned; all outlive the windows.
 struct Omgeving {
-    TextMeasure& meter;
+    const TextMeasure& meter;
     MessageBox& berichten;
     OpenDialog& open_dialoog;
     const FileStamp& tijdstempels;

@@ -1,0 +1,34 @@
+#include "meter.h"
+
+#include "platform/fonts.h"
+
+#include <QGuiApplication>
+
+namespace tavelo {
+
+namespace {
+
+// Fonts exist only while an application does; nothing of it is ever shown.
+class LetterMeter final : public TextMeasure {
+  public:
+    LetterMeter(int& argument_count, char** arguments) : application_(argument_count, arguments) {}
+    [[nodiscard]] double width(std::string_view font, double points, std::string_view text) const override {
+        return meter_.width(font, points, text);
+    }
+    [[nodiscard]] double height(std::string_view font, double points) const override {
+        return meter_.height(font, points);
+    }
+
+  private:
+    QGuiApplication application_;
+    FontTextMeasure meter_;
+};
+
+} // namespace
+
+std::unique_ptr<TextMeasure> letter_meter(int& argument_count, char** arguments) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<LetterMeter>(argument_count, arguments);
+}
+
+} // namespace tavelo

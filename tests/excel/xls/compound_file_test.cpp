@@ -1,0 +1,259 @@
+// The container around the workbook: its sectors, its directory, and how both can be broken.
+#include "xls_bytes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace tavelo {
+
+using namespace testing_xls;
+using Shown = std::vector<std::string>;
+
+namespace {
+
+constexpr std::uint32_t end_of_chain = 0xFFFFFFFE;
+constexpr std::uint32_t table_sector = 0xFFFFFFFD;
+constexpr std::uint32_t nothing = 0xFFFFFFFF;
+
+enum EntryType : unsigned { storage = 1, stream = 2, root = 5 };
+
+struct Entry {
+    std::u16string name;
+    unsigned type = stream;
+    Bytes content = {};
+    std::uint32_t left = nothing;
+    std::uint32_t right = nothing;
+    std::uint32_t child = nothing;
+};
+
+// Header, one sector of the table, the directory, then the contents one after another. Contents are padded to 4,096
+// bytes, so that they do not count as small. With `small` the one content lies in the mini stream.
+class Container {
+  public:
+    explicit Container(std::vector<Entry> entries, unsigned sector_shift = 9)
+        : entries_(std::move(entries)), sector_size_(std::size_t{1} << sector_shift), sector_shift_(sector_shift) {}
+
+    static constexpr std::size_t first_table_place = 512; // with sectors of 512 bytes
+
+    [[nodiscard]] Bytes bytes() {
+        next_.push_back(table_sector);
+        const std::size_t directory_sectors = (entries_.size() * 128 + sector_size_ - 1) / sector_size_;
+        add_chain(directory_sectors);
+        Bytes contents;
+        Bytes directory;
+        for (Entry& entry : entries_) {
+            std::uint32_t first = end_of_chain;
+            if (entry.content.size() > 0) {
+                entry.content.pad(4096);
+                first = add_chain(entry.content.size() / sector_size_);
+                contents.add(entry.content);
+            }
+            directory.add(entry_bytes(entry, first, entry.content.size()));
+        }
+        return header(end_of_chain, 0).add(table()).add(directory.pad(sector_size_)).add(contents);
+    }
+
+    // The second entry lies in the mini stream of the first, the root.
+    [[nodiscard]] Bytes small_bytes() {
+        next_.push_back(table_sector);
+        add_chain(1);
+        const std::uint32_t mini_table_sector = add_chain(1);
+        Bytes content = entries_[1].content;
+        const std::size_t size = content.size();
+        const std::size_t mini_sectors = (size + 63) / 64;
+        Bytes mini_table;
+        for (std::size_t i = 0; i < mini_sectors; ++i)
+            mini_table.u32(i + 1 < mini_sectors ? static_cast<std::uint32_t>(i + 1) : end_of_chain);
+        content.pad(sector_size_);
+        const std::uint32_t first = add_chain(content.size() / sector_size_);
+        Bytes directory = entry_bytes(entries_[0], first, content.size()).add(entry_bytes(entries_[1], 0, size));
+        return header(mini_table_sector, 1)
+            .add(table())
+            .add(directory.pad(sector_size_))
+            .add(mini_table.pad(sector_size_))
+            .add(content);
+    }
+
+  private:
+    std::uint32_t add_chain(std::size_t sectors) {
+        const auto first = static_cast<std::uint32_t>(next_.size());
+        for (std::size_t i = 1; i < sectors; ++i)
+            next_.push_back(first + static_cast<std::uint32_t>(i));
+        next_.push_back(end_of_chain);
+        return first;
+    }
+
+    [[nodiscard]] Bytes table() const {
+        Bytes bytes;
+        for (const std::uint32_t next : next_)
+            bytes.u32(next);
+        while (bytes.size() < sector_size_)
+            bytes.u32(nothing);
+        return bytes;
+    }
+
+    [[nodiscard]] Bytes header(std::uint32_t mini_table_sector, std::uint32_t mini_table_sectors) const {
+        Bytes bytes;
+        bytes.narrow("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1")
+            .zeros(16)
+            .u16(0x3E)
+            .u16(sector_shift_ == 9 ? 3 : 4)
+            .u16(0xFFFE);
+        bytes.u16(sector_shift_).u16(6).zeros(10).u32(1).u32(1).u32(0).u32(4096);
+        bytes.u32(mini_table_sector).u32(mini_table_sectors).u32(end_of_chain).u32(0).u32(0);
+        while (bytes.size() < 512)
+            bytes.u32(nothing);
+        return bytes.pad(sector_size_);
+    }
+
+    static Bytes entry_bytes(const Entry& entry, std::uint32_t first, std::size_t size) {
+        Bytes bytes;
+        bytes.wide(entry.name).zeros(64 - 2 * entry.name.size());
+        bytes.u16(static_cast<unsigned>(2 * entry.name.size() + 2)).u8(entry.type).u8(1);
+        bytes.u32(entry.left).u32(entry.right).u32(entry.child).zeros(36);
+        return bytes.u32(first).u32(static_cast<std::uint32_t>(size)).u32(0);
+    }
+
+    std::vector<Entry> entries_;
+    std::size_t sector_size_;
+    unsigned sector_shift_;
+    std::vector<std::uint32_t> next_; // the table: of each sector the next one
+};
+
+Entry root_entry(std::uint32_t child = 1) { return {.name = u"Root Entry", .type = root, .child = child}; }
+
+Bytes with_value(double value) { return sheet_8(number(0, 0, value)); }
+
+Bytes container_of(Bytes content) {
+    return Container({root_entry(), {.name = u"Workbook", .content = std::move(content)}}).bytes();
+}
+
+// The place in the table of the sector that holds the start of the workbook, in the files of container_of.
+constexpr std::size_t workbook_in_table = Container::first_table_place + 2 * 4;
+
+std::string failure(const Bytes& file) {
+    const auto workbook = open_xls(file.bytes());
+    if (workbook) return "open";
+    switch (workbook.error()) {
+    case OpenFailure::password:
+        return "wachtwoord";
+    case OpenFailure::not_a_workbook:
+        return "geen werkmap";
+    case OpenFailure::damaged:
+        return "beschadigd";
+    default:
+        return "iets anders";
+    }
+}
+
+} // namespace
+
+TEST(XlsContainer, de_werkmap_staat_in_sectoren_van_512_of_4096_bytes) {
+    EXPECT_EQ(shown(container_of(with_value(1))), (Shown{"A1=1"}));
+    EXPECT_EQ(shown(Container({root_entry(), {.name = u"Workbook", .content = with_value(2)}}, 12).bytes()),
+              (Shown{"A1=2"}));
+}
+
+TEST(XlsContainer, een_kleine_werkmap_staat_in_de_kleine_sectoren) {
+    const std::vector<Entry> entries = {root_entry(), {.name = u"Workbook", .content = with_value(3)}};
+    EXPECT_EQ(shown(Container(entries).small_bytes()), (Shown{"A1=3"}));
+}
+
+TEST(XlsContainer, een_oude_werkmap_heet_book_en_een_nieuwe_gaat_voor) {
+    EXPECT_EQ(shown(Container({root_entry(), {.name = u"Book", .content = with_value(5)}}).bytes()), (Shown{"A1=5"}));
+    const std::vector<Entry> both = {root_entry(),
+                                     {.name = u"Book", .content = with_value(5), .right = 2},
+                                     {.name = u"Workbook", .content = with_value(8)}};
+    EXPECT_EQ(shown(Container(both).bytes()), (Shown{"A1=8"}));
+}
+
+TEST(XlsContainer, hoofdletters_in_de_naam_tellen_niet) {
+    EXPECT_EQ(shown(Container({root_entry(), {.name = u"WORKBOOK", .content = with_value(4)}}).bytes()),
+              (Shown{"A1=4"}));
+}
+
+TEST(XlsContainer, een_ingesloten_werkmap_is_niet_de_werkmap_zelf) {
+    const std::vector<Entry> entries = {root_entry(3),
+                                        {.name = u"MBD0001", .type = storage, .child = 2},
+                                        {.name = u"Workbook", .content = with_value(99)},
+                                        {.name = u"Workbook", .content = with_value(1), .left = 1}};
+    EXPECT_EQ(shown(Container(entries).bytes()), (Shown{"A1=1"}));
+}
+
+TEST(XlsContainer, een_gebroken_boom_van_de_inhoudsopgave_is_geen_bezwaar) {
+    for (const std::uint32_t child : {0U, 7U, nothing}) {
+        const std::vector<Entry> entries = {root_entry(child), {.name = u"Workbook", .content = with_value(1)}};
+        EXPECT_EQ(shown(Container(entries).bytes()), (Shown{"A1=1"}));
+    }
+    const std::vector<Entry> ring = {root_entry(1),
+                                     {.name = u"A", .content = with_value(2), .left = 2, .right = 1},
+                                     {.name = u"B", .content = with_value(3), .left = 1, .right = 2},
+                                     {.name = u"Workbook", .content = with_value(1)}};
+    EXPECT_EQ(shown(Container(ring).bytes()), (Shown{"A1=1"}));
+}
+
+TEST(XlsContainer, een_keten_die_op_zichzelf_terugkomt_eindigt) {
+    Bytes file = container_of(with_value(1));
+    file.put_u32(workbook_in_table, 2); // the first sector of the workbook follows itself
+    EXPECT_EQ(shown(file), (Shown{"A1=1"}));
+    Bytes directory = container_of(with_value(1));
+    directory.put_u32(Container::first_table_place + 4, 1);
+    EXPECT_EQ(shown(directory), (Shown{"A1=1"}));
+}
+
+TEST(XlsContainer, een_keten_die_buiten_het_bestand_wijst_eindigt) {
+    Bytes file = container_of(with_value(1));
+    file.put_u32(workbook_in_table, 0x00FFFFFF);
+    EXPECT_EQ(shown(file), (Shown{"A1=1"}));
+}
+
+TEST(XlsContainer, een_tabel_van_tabellen_die_rondloopt_eindigt) {
+    Bytes file = container_of(with_value(1));
+    file.put_u32(68, 0); // its first sector is the table itself, whose last number is free
+    EXPECT_EQ(shown(file), (Shown{"A1=1"}));
+    file.put_u32(512 + 508, 0); // and now leads back to it
+    EXPECT_EQ(shown(file), (Shown{"A1=1"}));
+}
+
+TEST(XlsContainer, een_afgekapt_bestand_geeft_de_cellen_die_er_zijn) {
+    Bytes many;
+    for (unsigned row = 0; row < 100; ++row)
+        many.add(number(row, 0, row));
+    Bytes file = container_of(sheet_8(many));
+    file.cut(512 + 512 + 512 + 512); // header, table, directory and one sector of the workbook
+    const Shown cells = shown(file);
+    ASSERT_FALSE(cells.empty());
+    EXPECT_EQ(cells.front(), "A1=0");
+    EXPECT_LT(cells.size(), 100U);
+}
+
+TEST(XlsContainer, zonder_werkmap_erin_is_het_geen_werkmap) {
+    EXPECT_EQ(failure(Container({root_entry(), {.name = u"WordDocument", .content = with_value(1)}}).bytes()),
+              "geen werkmap");
+}
+
+TEST(XlsContainer, een_versleuteld_pakket_vraagt_een_wachtwoord) {
+    EXPECT_EQ(failure(Container({root_entry(), {.name = u"EncryptedPackage", .content = with_value(1)}}).bytes()),
+              "wachtwoord");
+}
+
+TEST(XlsContainer, een_kop_zonder_bruikbare_getallen_is_beschadigd) {
+    const Bytes whole = container_of(with_value(1));
+    EXPECT_EQ(failure(Bytes(whole).cut(8)), "beschadigd");
+    EXPECT_EQ(failure(Bytes(whole).cut(512)), "beschadigd");
+    EXPECT_EQ(failure(Bytes(whole).put_u8(30, 63)), "beschadigd");  // sectors of 2^63 bytes
+    EXPECT_EQ(failure(Bytes(whole).put_u32(48, 99)), "beschadigd"); // no directory there
+}
+
+TEST(XlsContainer, geen_enkele_verminkte_byte_van_kop_tabel_en_inhoudsopgave_brengt_het_lezen_van_streek) {
+    const Bytes whole = container_of(with_value(1));
+    for (std::size_t at = 8; at < 3 * 512; ++at) {
+        for (const unsigned value : {0x00U, 0x01U, 0x7FU, 0xFFU}) {
+            const Shown cells = shown(Bytes(whole).put_u8(at, value));
+            EXPECT_LE(cells.size(), 1U) << at;
+        }
+    }
+}
+
+} // namespace tavelo

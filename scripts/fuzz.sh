@@ -26,7 +26,8 @@ for target in "${targets[@]}"; do
     case $target in
     *xlsx*) find examples tests -name '*.xlsx' -exec cp --target-directory="$seeds" {} + ;;
     *xls*) find examples tests -name '*.xls' -exec cp --target-directory="$seeds" {} + ;;
-    *schedule* | *merge*) cp --target-directory="$seeds" examples/*.rst ;;
+    *schedule*) cp --target-directory="$seeds" examples/*.rst ;;
+    *merge*) cat examples/dressuur.rst examples/springen.rst >"$seeds/ander"; cat examples/mennen.rst{,} >"$seeds/zelfde" ;;
     esac
     "build/fuzz/fuzz/$target" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=4096 -print_final_stats=1 \
         -artifact_prefix="build/fuzz/findings/$target-" "$corpus" "$seeds"

@@ -1,0 +1,40 @@
+// Runs the registered benchmarks and keeps the best time of each, so that a bench can print what it is about: the ratio
+// of two times taken in one run on one machine.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tavelo {
+
+class Tijden : public benchmark::ConsoleReporter {
+  public:
+    void ReportRuns(const std::vector<Run>& runs) override {
+        for (const Run& run : runs) {
+            if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
+            const double seconden = run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
+            const auto [plaats, nieuw] = tijden_.try_emplace(run.run_name.function_name, seconden);
+            if (!nieuw) plaats->second = std::min(plaats->second, seconden);
+        }
+        ConsoleReporter::ReportRuns(runs);
+    }
+
+    // "ratio <what>: <ratio> (at most <most>)"; nothing when one of the two did not run.
+    void druk_verhouding(const char* wat, const std::string& teller, const std::string& noemer,
+                         double hoogstens) const {
+        const auto boven = tijden_.find(teller);
+        const auto onder = tijden_.find(noemer);
+        if (boven == tijden_.end() || onder == tijden_.end()) return;
+        std::printf("ratio %s: %.2f (at most %g)\n", wat, boven->second / onder->second, hoogstens);
+    }
+
+  private:
+    std::map<std::string, double> tijden_;
+};
+
+} // namespace tavelo

@@ -100,6 +100,45 @@ std::optional<Condition> parse_condition(std::string_view text) {
     return std::nullopt;
 }
 
+// Symbols that are a piece by themselves.
+std::optional<PieceKind> kind_of_symbol(char symbol) {
+    switch (symbol) {
+    case '0':
+    case '#':
+    case '?':
+        return PieceKind::digit;
+    case '.':
+        return PieceKind::point;
+    case ',':
+        return PieceKind::comma;
+    case '/':
+        return PieceKind::slash;
+    case ':':
+        return PieceKind::colon;
+    case '%':
+        return PieceKind::percent;
+    case '@':
+        return PieceKind::text;
+    default:
+        return symbol >= '1' && symbol <= '9' ? std::optional(PieceKind::literal_digit) : std::nullopt;
+    }
+}
+
+PieceKind kind_of_date_letter(char letter, std::size_t count) {
+    switch (letter) {
+    case 'y':
+        return PieceKind::year;
+    case 'm':
+        return count > 2 ? PieceKind::month : PieceKind::month_or_minute;
+    case 'd':
+        return count > 2 ? PieceKind::weekday : PieceKind::day;
+    case 'h':
+        return PieceKind::hour;
+    default:
+        return PieceKind::second;
+    }
+}
+
 // Cuts the code into sections of plain pieces; what a point, a comma or an m means is settled when a section is
 // complete.
 class Lexer {
@@ -148,33 +187,9 @@ class Lexer {
         case '[':
             read_bracket(section);
             return;
-        case '0':
-        case '#':
-        case '?':
-            add(section, PieceKind::digit, first);
-            return;
-        case '.':
-            add(section, PieceKind::point);
-            return;
-        case ',':
-            add(section, PieceKind::comma);
-            return;
-        case '/':
-            add(section, PieceKind::slash);
-            return;
-        case ':':
-            add(section, PieceKind::colon);
-            return;
-        case '%':
-            add(section, PieceKind::percent);
-            return;
-        case '@':
-            section.has_text_piece = true;
-            add(section, PieceKind::text);
-            return;
         default:
-            if (first >= '1' && first <= '9')
-                add(section, PieceKind::literal_digit, first);
+            if (const auto kind = kind_of_symbol(first))
+                add(section, *kind, first);
             else if (!read_word(section))
                 add_literal(section, take(code_point_length(rest_)));
         }
@@ -184,6 +199,7 @@ class Lexer {
         take(length);
         section.pieces.push_back({kind, symbol, static_cast<std::uint32_t>(length), 0});
         if (kind == PieceKind::digit) digit_seen_ = true;
+        if (kind == PieceKind::text) section.has_text_piece = true;
     }
 
     void read_quoted(FormatSection& section) {
@@ -242,49 +258,45 @@ class Lexer {
             add(section, PieceKind::a_p, rest_.front(), std::string_view("a/p").size());
             return true;
         }
+        return read_date_letters(section, first);
+    }
+
+    bool read_date_letters(FormatSection& section, char letter) {
+        constexpr std::string_view date_letters = "ymdhsabeg";
+        if (!date_letters.contains(letter)) return false;
         const auto end =
-            std::find_if(rest_.begin(), rest_.end(), [first](char other) { return lower(other) != first; });
+            std::find_if(rest_.begin(), rest_.end(), [letter](char other) { return lower(other) != letter; });
         const auto run = static_cast<std::size_t>(end - rest_.begin());
         const char after = end == rest_.end() ? '\0' : lower(*end);
-        switch (first) {
-        case 'y':
-            add(section, PieceKind::year, 0, run);
-            return true;
-        case 'm':
-            add(section, run > 2 ? PieceKind::month : PieceKind::month_or_minute, 0, run);
-            return true;
-        case 'd':
-            add(section, run > 2 ? PieceKind::weekday : PieceKind::day, 0, run);
-            return true;
-        case 'h':
-            add(section, PieceKind::hour, 0, run);
-            return true;
-        case 's':
-            add(section, PieceKind::second, 0, run);
-            return true;
-        case 'e':
-            if (digit_seen_ && run == 1 && (after == '+' || after == '-'))
-                add(section, PieceKind::exponent, after, 2);
-            else
-                add(section, PieceKind::era_year, rest_.front(), run);
-            return true;
+        switch (letter) {
         case 'a': // the weekday in codes from East Asia
-            if (run < 3) return false;
-            add(section, PieceKind::weekday, 0, run);
-            return true;
+            if (run > 2)
+                add(section, PieceKind::weekday, 0, run);
+            else
+                add_literal(section, take(run));
+            break;
         case 'b':
             if (run == 1 && !digit_seen_ && (after == '1' || after == '2')) // chooses a calendar
                 take(2);
             else
                 add(section, PieceKind::era_year, rest_.front(), run);
-            return true;
+            break;
+        case 'e':
+            if (digit_seen_ && run == 1 && (after == '+' || after == '-'))
+                add(section, PieceKind::exponent, after, 2);
+            else
+                add(section, PieceKind::era_year, rest_.front(), run);
+            break;
         case 'g': // an era, which western dates do not show
-            if (digit_seen_ || (after != 'e' && after != 'y')) return false;
-            take(run);
-            return true;
+            if (!digit_seen_ && (after == 'e' || after == 'y'))
+                take(run);
+            else
+                add_literal(section, take(run));
+            break;
         default:
-            return false;
+            add(section, kind_of_date_letter(letter, run), 0, run);
         }
+        return true;
     }
 
     std::string_view rest_;

@@ -65,8 +65,9 @@ Choice choose_from_more(const std::vector<FormatSection>& sections, double value
         return {&first, first.condition ? minus_under(first) : Minus::shown};
     if (second.condition) {
         if (second.condition->holds(value)) return {&second, minus_under(second)};
-        if (!has_third) return {nullptr, Minus::shown, false};
-        return {&sections[2], Minus::shown};
+        if (has_third) return {&sections[2], Minus::shown};
+        if (value == 0 && !first.condition) return {&first, Minus::shown};
+        return {nullptr, Minus::shown, false};
     }
     if (has_third && !(value < 0)) return {&sections[2], Minus::shown};
     if (has_third || !first.condition) return {&second, Minus::implied};

@@ -245,12 +245,12 @@ class FractionWriter {
     FractionWriter(const FormatSection& section, double size, const Locale& locale)
         : section_(section), size_(size), locale_(locale), mixed_(section.integer_places > 0) {
         split(size * std::pow(10.0, static_cast<double>(section.scale)));
+        blank_ = is_blank();
     }
 
     [[nodiscard]] std::string text() const {
         const std::string_view separator = section_.grouped ? std::string_view(locale_.thousands_separator) : "";
-        PlaceFiller integer(whole_ == 0 && !is_blank() ? "" : digits_or_zero(whole_), section_.integer_places,
-                            separator);
+        PlaceFiller integer(whole_ == 0 && !blank_ ? "" : digits_or_zero(whole_), section_.integer_places, separator);
         PlaceFiller numerator(digits_or_zero(ratio_.numerator), section_.numerator_places);
         std::string denominator = denominator_digits();
         std::string out;
@@ -258,7 +258,7 @@ class FractionWriter {
         std::size_t denominators_out = 0;
         for (const FormatPiece& piece : section_.pieces) {
             in_fraction = in_fraction || piece.kind == PieceKind::numerator_digit;
-            const bool blank = in_fraction && is_blank();
+            const bool blank = in_fraction && blank_;
             switch (piece.kind) {
             case PieceKind::integer_digit:
                 integer.fill(out, piece.symbol);
@@ -339,6 +339,7 @@ class FractionWriter {
     double size_;
     const Locale& locale_;
     bool mixed_;
+    bool blank_ = false;
     double whole_ = 0;
     Ratio ratio_;
 };

@@ -186,6 +186,8 @@ TEST(Secties, met_een_voorwaarde_die_alleen_negatieve_getallen_toelaat_tonen_gee
 TEST(Secties, zonder_plaats_voor_een_waarde_tonen_hekjes) {
     EXPECT_EQ(shown(7, "[>10]0;[<5]0"), "######");
     EXPECT_EQ(shown(12, "[>10]0;[<5]0"), "12");
+    EXPECT_EQ(shown(0, "0.0;[<-5](0)"), "0.0");
+    EXPECT_EQ(shown(-2, "0.0;[<-5](0)"), "######");
 }
 
 TEST(Opvulling, wordt_een_spatie_en_herhaling_valt_weg) {
@@ -258,6 +260,9 @@ TEST(Lange_codes, blijven_binnen_hun_eigen_maat) {
     EXPECT_EQ(shown(0.5, "0." + zeros), "0.5" + zeros.substr(1));
     EXPECT_EQ(shown(7, "0E+" + zeros).size(), zeros.size() + 3);
     EXPECT_EQ(shown(0.5, "?/" + zeros).size(), zeros.size() + 2);
+    EXPECT_EQ(shown(7, "# ?/" + zeros).size(), zeros.size() + 4);
+    EXPECT_EQ(shown(7, "0" + std::string(100'000, 'x')).size(), 100'001U);
+    EXPECT_EQ(shown(7, "0" + std::string(100'000, 'g')).size(), 100'001U);
     EXPECT_EQ(shown(1, "[" + std::string(100'000, 'h') + "]").size(), 100'000U);
     EXPECT_EQ(shown(7, std::string(100'000, '[')).size(), 100'000U);
     EXPECT_EQ(shown(7, "0" + std::string(100'000, ',')), "0");

@@ -1,0 +1,153 @@
+#include "excel/builtin_excel.h"
+
+#include "excel/codeExcel.h"
+#include "excel/xlsx/xlsx_maker.h"
+#include "schedule/record/kolommen.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace tavelo {
+namespace {
+
+const std::string startlijst = TAVELO_TEST_DATA "/excel/startlijst.xlsx";
+
+struct Messages : MessageBox {
+    std::vector<std::string> shown;
+    void show(std::string_view text) override { shown.emplace_back(text); }
+};
+
+struct NoPointer : Pointer {
+    void busy() override {}
+    void normal() override {}
+};
+
+struct BuiltinExcel : testing::Test {
+    std::unique_ptr<ExcelApplication> excel = builtin_excel(locale_named("nl-NL"));
+    Grid grid;
+    Messages messages;
+    NoPointer pointer;
+
+    bool lees(const std::string& file, int blad = 1) { return lees_excel(file, blad, grid, *excel, messages, pointer); }
+    std::vector<std::string> row(int index) const {
+        std::vector<std::string> texts;
+        for (int column = 0; column < grid.columns(); ++column)
+            texts.push_back(grid.text(index, column));
+        return texts;
+    }
+};
+
+TEST_F(BuiltinExcel, een_startlijst_komt_in_het_grid_zoals_excel_haar_toont) {
+    EXPECT_FALSE(lees(startlijst)); // more sheets follow
+    EXPECT_TRUE(messages.shown.empty());
+    ASSERT_EQ(grid.rows(), 4);
+    ASSERT_EQ(grid.columns(), 12);
+    EXPECT_EQ(row(0).front(), "Tijd");
+    EXPECT_EQ(row(1), (std::vector<std::string>{"9:00", "1", "001", "Zoë van der Meer", "Bonfire", "Welt Hit II",
+                                                "Fürst Heinrich", "bruin", "ruin", "9", "KWPN", "RV De Lâge Wâlden"}));
+    EXPECT_EQ(grid.text(3, 3), "Ångström, Åsa");
+    EXPECT_EQ(grid.text(3, 4), "Prins \"Blitz\"");
+}
+
+TEST_F(BuiltinExcel, de_kolommen_hebben_de_verhouding_van_het_blad) {
+    lees(startlijst);
+    // 6.71 characters are 39 points, 25.71 are 138.75, a column without a width is 48: 39 + 39 + 39 + 139 + 139 + 7
+    // * 48.
+    EXPECT_EQ(grid.column_width(0), 800); // 15000 * 39 / 731
+    EXPECT_EQ(grid.column_width(3), 2852);
+    EXPECT_EQ(grid.column_width(5), 985);
+}
+
+TEST_F(BuiltinExcel, datums_fouten_en_getallen_staan_er_zoals_op_een_nederlandse_computer) {
+    EXPECT_FALSE(lees(startlijst, 2));
+    // The used range is B2:D7, three columns by six rows; it is copied from A1 on.
+    ASSERT_EQ(grid.rows(), 6);
+    ASSERT_EQ(grid.columns(), 3);
+    EXPECT_EQ(row(0), (std::vector<std::string>{"", "", ""}));
+    EXPECT_EQ(row(1), (std::vector<std::string>{"", "20-11-2026", "68,8%"}));
+    EXPECT_EQ(row(2), (std::vector<std::string>{"", "WAAR", "#DEEL/0!"}));
+    EXPECT_EQ(row(4), (std::vector<std::string>{"", "samengevoegd", ""}));
+}
+
+TEST_F(BuiltinExcel, een_grafiekblad_telt_mee_en_heeft_geen_cellen) {
+    EXPECT_FALSE(lees(startlijst, 3));
+    EXPECT_EQ(grid.rows(), 0);
+    EXPECT_TRUE(lees(startlijst, 4)); // the last one, empty
+    EXPECT_EQ(grid.rows(), 0);
+    EXPECT_EQ(grid.columns(), 0);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(BuiltinExcel, een_leeg_eerste_blad_geeft_geen_rijen_en_geen_kolommen) {
+    EXPECT_TRUE(lees(TAVELO_TEST_DATA "/excel/leeg.xlsx"));
+    EXPECT_EQ(grid.rows(), 0);
+    EXPECT_EQ(grid.columns(), 0);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(BuiltinExcel, een_werkmap_die_met_een_grafiek_begint_gaat_open_zonder_rijen) {
+    EXPECT_FALSE(lees(TAVELO_TEST_DATA "/excel/grafiek_eerst.xlsx"));
+    EXPECT_EQ(grid.rows(), 0);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(BuiltinExcel, een_blad_voorbij_het_laatste_kopieert_niets) {
+    EXPECT_TRUE(lees(startlijst, 5));
+    EXPECT_EQ(grid.rows(), 0);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(BuiltinExcel, een_bestand_dat_weg_is_geeft_een_zin) {
+    EXPECT_TRUE(lees("/bestaat/niet.xlsx"));
+    EXPECT_EQ(messages.shown, std::vector<std::string>{"YEP1: Het bestand is niet gevonden."});
+    EXPECT_EQ(grid.rows(), 0);
+    EXPECT_FALSE(lees(startlijst)); // the program goes on
+    EXPECT_EQ(grid.rows(), 4);
+}
+
+TEST_F(BuiltinExcel, een_werkmap_met_een_kapot_eerste_blad_gaat_niet_open) {
+    auto parts = test::XlsxMaker{}.parts();
+    test::replace_part(parts, "xl/worksheets/sheet1.xml", "<worksheet><sheetData><row>");
+    const auto bytes = test::zip_of(parts);
+    const std::string file = (std::filesystem::temp_directory_path() / "tavelo_kapot_blad.xlsx").string();
+    std::ofstream(file, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    EXPECT_TRUE(lees(file));
+    std::filesystem::remove(file);
+    EXPECT_EQ(messages.shown,
+              std::vector<std::string>{"YEP1: De werkmap is beschadigd of nog niet helemaal opgeslagen."});
+}
+
+TEST_F(BuiltinExcel, de_opgeslagen_waarde_van_een_cel_is_er_ook) {
+    auto books = excel->Workbooks().value();
+    auto book = books->Open(startlijst).value();
+    auto sheet = book->Sheets().value()->Next().value();
+    EXPECT_EQ(sheet->Cells(2, 1).value()->Value(), "0.375");
+    EXPECT_EQ(sheet->Cells(2, 1).value()->Text(), "9:00");
+    EXPECT_EQ(sheet->Cells(2, 4).value()->Value(), "Zoë van der Meer");
+    EXPECT_EQ(sheet->Cells(99, 99).value()->Text(), "");
+    EXPECT_FALSE(sheet->Cells(0, 1).has_value());
+    EXPECT_TRUE(book->Close().has_value());
+    EXPECT_FALSE(book->Sheets().has_value());
+    EXPECT_EQ(sheet->Cells(2, 1).value()->Text(), "9:00"); // what was taken from it stays usable
+}
+
+TEST_F(BuiltinExcel, een_startlijst_wordt_door_de_letters_van_de_instellingen_het_rooster) {
+    Programma programma;
+    programma.instellingen.col_startnumber = "a";
+    programma.instellingen.col_hnr = "C";
+    programma.instellingen.col_rider_name = "D";
+    programma.instellingen.col_horse_name = "E";
+    open_excel_rooster(startlijst, 0, programma, *excel, messages, pointer);
+    ASSERT_EQ(programma.grdRooster.rows(), 5);
+    EXPECT_EQ(programma.grdRooster.text(1, kolom_naam), "Ruiter");
+    EXPECT_EQ(programma.grdRooster.text(3, kolom_nrtijd), "9:07");
+    EXPECT_EQ(programma.grdRooster.text(3, kolom_hnr), "002");
+    EXPECT_EQ(programma.grdRooster.text(3, kolom_naam), "Daniël Müller");
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+} // namespace
+} // namespace tavelo

@@ -69,6 +69,10 @@ std::string_view language_of_tag(std::string_view tag) {
     return {};
 }
 
+bool is_chinese(std::string_view tag) {
+    return starts_with_word(tag, "804") || starts_with_word(tag, "404") || starts_with_word(tag, "zh-");
+}
+
 SystemFormat system_format_of_tag(std::string_view tag) {
     if (tag == "x-shortdate") return SystemFormat::short_date;
     if (tag == "x-shortdatetime") return SystemFormat::short_date_and_time;
@@ -146,6 +150,15 @@ class Lexer {
     explicit Lexer(std::string_view code) : rest_(code) {}
 
     std::vector<FormatSection> sections() {
+        std::vector<FormatSection> found = cut();
+        if (chinese_) return found;
+        for (FormatSection& section : found)
+            section.numerals = Numerals::western;
+        return found;
+    }
+
+  private:
+    std::vector<FormatSection> cut() {
         std::vector<FormatSection> found(1);
         while (!rest_.empty()) {
             if (rest_.front() == ';') {
@@ -160,7 +173,6 @@ class Lexer {
         return found;
     }
 
-  private:
     std::string_view take(std::size_t length) {
         const std::string_view taken = rest_.substr(0, length);
         rest_.remove_prefix(taken.size());
@@ -221,17 +233,22 @@ class Lexer {
             read_locale_tag(section, inside.substr(1));
         else if (const auto condition = parse_condition(inside))
             section.condition = condition;
+        else if (starts_with_word(inside, "dbnum1"))
+            section.numerals = Numerals::chinese;
+        else if (starts_with_word(inside, "dbnum2"))
+            section.numerals = Numerals::chinese_formal;
         else
-            read_elapsed(section, inside); // anything else is a colour or a numeral system
+            read_elapsed(section, inside); // anything else is a colour
     }
 
-    static void read_locale_tag(FormatSection& section, std::string_view inside) {
+    void read_locale_tag(FormatSection& section, std::string_view inside) {
         const std::size_t dash = inside.find('-');
         add_literal(section, inside.substr(0, dash));
         if (dash == std::string_view::npos) return;
         const std::string_view tag = inside.substr(dash + 1);
         if (section.system == SystemFormat::none) section.system = system_format_of_tag(tag);
         section.language = language_of_tag(tag);
+        chinese_ = chinese_ || is_chinese(tag);
     }
 
     static void read_elapsed(FormatSection& section, std::string_view inside) {
@@ -302,6 +319,7 @@ class Lexer {
     std::string_view rest_;
     bool digit_seen_ = false; // in this section
     bool closing_brackets_left_ = true;
+    bool chinese_ = false; // other languages of the numeral tags are not known here
 };
 
 bool is_date_piece(PieceKind kind) {

@@ -1,6 +1,8 @@
 // A number format code taken apart: its sections, and of each section the pieces in the order in which they are shown.
 #pragma once
 
+#include "excel/text/numerals.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -83,6 +85,7 @@ struct FormatSection {
     std::optional<Condition> condition;
     std::string_view language; // a name for locale_named, or empty: that of the regional settings
     SystemFormat system = SystemFormat::none;
+    Numerals numerals = Numerals::western;
     bool has_text_piece = false;
     // Numbers
     bool grouped = false;

@@ -26,6 +26,11 @@ struct Choice {
 
 bool has_places(const FormatSection& section) { return section.kind != SectionKind::literal; }
 
+NumeralStyle numeral_style(const FormatSection& section) {
+    if (section.kind == SectionKind::general) return NumeralStyle::spelled;
+    return section.kind == SectionKind::date ? NumeralStyle::calendar : NumeralStyle::digits;
+}
+
 // The minus of a value that meets an explicit condition. A section that only negative numbers reach brings its own
 // sign, and so does one that shows no number at all.
 Minus minus_under(const FormatSection& section) {
@@ -112,6 +117,8 @@ std::string NumberFormat::show_number(double value, DateSystem dates, const Loca
     } else {
         shown = number_text(*section, size, locale);
     }
+    if (section != nullptr && section->numerals != Numerals::western)
+        shown.text = with_numerals(shown.text, section->numerals, numeral_style(*section));
     if (negative && minus == Minus::shown && !shown.shows_zero) shown.text.insert(0, 1, '-');
     return shown.text;
 }

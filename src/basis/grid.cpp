@@ -108,17 +108,15 @@ void Grid::set_top_row(int row) {
     tell_current();
 }
 
-int Grid::append_row() {
-    insert_row(rows(), {});
+int Grid::append_row(std::vector<std::string> texts) {
+    insert_row(rows(), std::move(texts));
     return rows() - 1;
 }
 
-void Grid::insert_row(int row, std::span<const std::string> texts) {
+void Grid::insert_row(int row, std::vector<std::string> texts) {
     const int at = std::clamp(row, 0, rows());
-    Row added;
-    added.texts.resize(static_cast<std::size_t>(columns_));
-    std::ranges::copy(texts.first(std::min(texts.size(), added.texts.size())), added.texts.begin());
-    rows_.insert(rows_.begin() + at, std::move(added));
+    texts.resize(static_cast<std::size_t>(columns_));
+    rows_.insert(rows_.begin() + at, Row{std::move(texts)});
     if (GridListener* listener = audience()) listener->row_inserted(at);
 }
 

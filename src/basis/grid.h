@@ -5,7 +5,6 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -66,10 +65,10 @@ class Grid {
     [[nodiscard]] int top_row() const { return top_row_; }
     void set_top_row(int row);
 
-    // Appends an empty row and gives its position.
-    int append_row();
+    // Appends a row and gives its position. Missing texts are empty, texts beyond the last column are dropped.
+    int append_row(std::vector<std::string> texts = {});
     // Inserts a row before `row`; at the end when `row` lies beyond it. Texts beyond the last column are dropped.
-    void insert_row(int row, std::span<const std::string> texts);
+    void insert_row(int row, std::vector<std::string> texts);
     void remove_row(int row);
 
     // With redraw off the listener hears nothing; switched on again it hears `grid_reset` once.

@@ -1,5 +1,6 @@
 #include "basis/number.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -79,6 +80,12 @@ std::optional<double> number_in(std::string_view text) {
     if (negative || text[0] == '+') text.remove_prefix(1);
     text = text.substr(0, decimal_length(text));
     if (text.empty()) return std::nullopt;
+    if (constexpr std::size_t always_fits = 9; text.size() <= always_fits && std::ranges::all_of(text, is_digit)) {
+        int whole = 0;
+        for (const char c : text)
+            whole = whole * 10 + (c - '0');
+        return negative ? -whole : whole;
+    }
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
@@ -90,13 +97,8 @@ std::optional<double> number_in(std::string_view text) {
     return negative ? -value : value;
 }
 
-double round_half_even(double value) {
-    const double below = std::floor(value);
-    const double rest = value - below;
-    if (rest < 0.5) return below;
-    if (rest > 0.5) return below + 1;
-    return std::fmod(below, 2) == 0 ? below : below + 1;
-}
+// The default rounding mode of the computer is the one that is wanted; nothing in the program changes it.
+double round_half_even(double value) { return std::nearbyint(value); }
 
 std::optional<std::int16_t> to_int16(double value) { return fitted<std::int16_t>(value); }
 std::optional<std::int32_t> to_int32(double value) { return fitted<std::int32_t>(value); }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace tavelo {
 
@@ -15,7 +16,7 @@ constexpr std::array<char16_t, 32> windows_1252_upper_controls = {
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 constexpr char32_t lower(char32_t c) {
-    if (c >= U'A' && c <= U'Z') return c + 0x20;
+    if (c < 0x80) return c >= U'A' && c <= U'Z' ? c + 0x20 : c;
     if (c >= 0xC0 && c <= 0xDE && c != 0xD7) return c + 0x20;
     switch (c) {
     case 0x178:
@@ -32,7 +33,7 @@ constexpr char32_t lower(char32_t c) {
 }
 
 constexpr char32_t upper(char32_t c) {
-    if (c >= U'a' && c <= U'z') return c - 0x20;
+    if (c < 0x80) return c >= U'a' && c <= U'z' ? c - 0x20 : c;
     if (c >= 0xE0 && c <= 0xFE && c != 0xF7) return c - 0x20;
     switch (c) {
     case 0xFF:
@@ -73,12 +74,32 @@ Decoded decode(std::string_view text) {
     return invalid;
 }
 
+bool is_plain(char c) { return static_cast<unsigned char>(c) < 0x80; }
+
+// Length of the leading part without a byte of 80 or above; eight bytes at a time, for this is most of a file.
+std::size_t plain_length(std::string_view bytes) {
+    constexpr std::uint64_t high_bits = 0x8080808080808080;
+    std::size_t length = 0;
+    for (std::uint64_t eight = 0; length + sizeof eight <= bytes.size(); length += sizeof eight) {
+        std::memcpy(&eight, bytes.data() + length, sizeof eight);
+        if ((eight & high_bits) != 0) break;
+    }
+    while (length < bytes.size() && is_plain(bytes[length]))
+        ++length;
+    return length;
+}
+
 // Maps every code point; bytes that are not UTF-8 are kept as they are.
 template <class Mapping>
 std::string mapped(std::string_view text, Mapping mapping) {
     std::string result;
     result.reserve(text.size());
     while (!text.empty()) {
+        if (is_plain(text.front())) {
+            result.push_back(static_cast<char>(mapping(static_cast<unsigned char>(text.front()))));
+            text.remove_prefix(1);
+            continue;
+        }
         const Decoded next = decode(text);
         const char32_t to = mapping(next.code_point);
         if (to == next.code_point)
@@ -125,17 +146,6 @@ std::vector<std::string_view> split(std::string_view text, std::string_view sepa
     }
 }
 
-std::optional<std::string_view> take_part(std::optional<std::string_view>& rest, char separator) {
-    if (!rest) return std::nullopt;
-    const std::size_t at = rest->find(separator);
-    const std::string_view part = rest->substr(0, at);
-    if (at == std::string_view::npos)
-        rest.reset();
-    else
-        rest->remove_prefix(at + 1);
-    return part;
-}
-
 std::string join(std::span<const std::string> parts, std::string_view separator) {
     std::string result;
     for (const std::string& part : parts) {
@@ -152,15 +162,15 @@ std::string_view last(std::string_view text, std::size_t count) {
 std::string from_windows_1252(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 16);
-    for (;;) {
-        const auto high =
-            std::ranges::find_if(bytes, [](char c) { return (static_cast<unsigned char>(c) & 0x80U) != 0; });
-        text.append(bytes.begin(), high);
-        if (high == bytes.end()) return text;
-        const auto byte = static_cast<unsigned char>(*high);
+    while (!bytes.empty()) {
+        const std::size_t plain = plain_length(bytes);
+        text.append(bytes.substr(0, plain));
+        if (plain == bytes.size()) break;
+        const auto byte = static_cast<unsigned char>(bytes[plain]);
         append_utf8(text, byte < 0xA0 ? windows_1252_upper_controls[byte - 0x80U] : byte);
-        bytes.remove_prefix(static_cast<std::size_t>(high - bytes.begin()) + 1);
+        bytes.remove_prefix(plain + 1);
     }
+    return text;
 }
 
 std::u32string code_points(std::string_view text) {

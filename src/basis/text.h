@@ -19,10 +19,30 @@ namespace tavelo {
 [[nodiscard]] std::string removed(std::string_view text, std::string_view part);
 // Views on `text`; a text without the separator gives one part, an empty text one empty part.
 [[nodiscard]] std::vector<std::string_view> split(std::string_view text, std::string_view separator);
-// Takes the part before the next separator off the front of `rest`; nothing once the last part is taken. Walks a text
-// of any size without building a list. Start with `std::optional rest = text`.
-[[nodiscard]] std::optional<std::string_view> take_part(std::optional<std::string_view>& rest, char separator);
 [[nodiscard]] std::string join(std::span<const std::string> parts, std::string_view separator);
+// Walks the same parts one by one, for a text of any size.
+class Parts {
+  public:
+    Parts(std::string_view text, char separator) : rest_(text), separator_(separator) {}
+
+    // The next part; nothing behind the last one.
+    std::optional<std::string_view> next() {
+        if (at_end_) return std::nullopt;
+        const std::size_t end = rest_.find(separator_);
+        const std::string_view part = rest_.substr(0, end);
+        at_end_ = end == std::string_view::npos;
+        rest_.remove_prefix(at_end_ ? rest_.size() : end + 1);
+        return part;
+    }
+    // What `next` has not given yet.
+    [[nodiscard]] std::string_view rest() const { return rest_; }
+
+  private:
+    std::string_view rest_;
+    char separator_;
+    bool at_end_ = false;
+};
+
 // The last `count` bytes; used for texts of digits.
 [[nodiscard]] std::string_view last(std::string_view text, std::size_t count);
 

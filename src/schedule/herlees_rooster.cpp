@@ -150,7 +150,7 @@ class Samenvoeging {
         for (int kolom = 0; kolom < bron_.columns(); ++kolom)
             teksten.push_back(bron_.text(bronrij, kolom));
         const int plaats = std::min(bronrij, doel_.rows()); // beyond the end: nothing new is lost
-        doel_.insert_row(plaats, teksten);
+        doel_.insert_row(plaats, std::move(teksten));
         index_.ingevoegd(nummer, plaats);
         verslag_.hele_rij("toegevoegd", bron_, bronrij);
     }

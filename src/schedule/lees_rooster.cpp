@@ -5,6 +5,7 @@
 #include "basis/text.h"
 #include "schedule/record/items.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace tavelo {
@@ -13,18 +14,31 @@ namespace {
 
 constexpr std::string_view eerste_regel = "[Vendalo 3.4]";
 
-// Takes the line in front off `rest`, without its end.
-std::string_view neem_regel(std::string_view& rest) {
-    const std::size_t einde = rest.find_first_of("\r\n");
-    const std::string_view regel = rest.substr(0, einde);
-    if (einde == std::string_view::npos) {
-        rest = {};
+// Cuts a text into lines. The next end of either kind is looked up once and kept, so that a file with ends of one kind
+// alone is still read in one pass.
+class Regels {
+  public:
+    explicit Regels(std::string_view tekst) : tekst_(tekst), cr_(tekst.find('\r')), lf_(tekst.find('\n')) {}
+
+    // The next line without its end; nothing behind the last one.
+    std::optional<std::string_view> volgende() {
+        if (begin_ >= tekst_.size()) return std::nullopt;
+        if (cr_ < begin_) cr_ = tekst_.find('\r', begin_);
+        if (lf_ < begin_) lf_ = tekst_.find('\n', begin_);
+        const std::size_t einde = std::min({cr_, lf_, tekst_.size()});
+        const std::string_view regel = tekst_.substr(begin_, einde - begin_);
+        begin_ = einde == cr_ && lf_ == cr_ + 1 ? einde + 2 : einde + 1;
         return regel;
     }
-    const bool cr_lf = rest[einde] == '\r' && einde + 1 < rest.size() && rest[einde + 1] == '\n';
-    rest.remove_prefix(einde + (cr_lf ? 2 : 1));
-    return regel;
-}
+    // What stands behind the lines taken so far.
+    [[nodiscard]] std::size_t positie() const { return std::min(begin_, tekst_.size()); }
+
+  private:
+    std::string_view tekst_;
+    std::size_t begin_ = 0;
+    std::size_t cr_;
+    std::size_t lf_;
+};
 
 // Applies one line after the other.
 class Lezer {
@@ -121,10 +135,10 @@ std::string_view discipline_woord(std::int16_t ringtype) {
 std::expected<std::string, GeenRooster> open_roosterbestand(std::string_view pad) {
     std::optional<BestandInhoud> inhoud = lees_bestand_met_begin(pad, eerste_regel);
     if (!inhoud) return std::unexpected(GeenRooster::niet_te_openen);
-    std::string_view rest = inhoud->bytes;
-    if (!inhoud->begin_klopt || neem_regel(rest) != eerste_regel)
+    Regels regels(inhoud->bytes);
+    if (!inhoud->begin_klopt || regels.volgende() != eerste_regel)
         return std::unexpected(GeenRooster::andere_eerste_regel);
-    inhoud->bytes.erase(0, inhoud->bytes.size() - rest.size());
+    inhoud->bytes.erase(0, regels.positie());
     return std::move(inhoud->bytes);
 }
 
@@ -133,8 +147,9 @@ void lees_regels(std::string_view bytes, Schedule& schedule, MessageBox& bericht
     schedule.rubriek_record.clear();
     schedule.hoofdstelnummerautomatisch = false;
     Lezer lezer(schedule, berichten, logboek);
-    while (!bytes.empty())
-        lezer.lees(neem_regel(bytes));
+    Regels regels(bytes);
+    while (const std::optional<std::string_view> regel = regels.volgende())
+        lezer.lees(*regel);
 }
 
 std::string rooster_bijschrift(const Schedule& schedule, std::string_view pad) {

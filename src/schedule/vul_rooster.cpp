@@ -12,12 +12,15 @@
 
 #include <array>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace tavelo {
 
 namespace {
 
-using Items = std::optional<std::string_view>;
+using Item = std::optional<std::string_view>;
+using Cellen = std::vector<std::string>; // of one row, by column
 
 // Steps through a record and remembers the last thing that went wrong.
 class Vuller {
@@ -25,12 +28,12 @@ class Vuller {
     explicit Vuller(const RoosterDoel& doel) : doel_(doel), rubriek_(doel.schedule.huidige_rubriek) {}
 
     void vul(std::string_view record) {
-        Items rest = record;
-        while (const Items deel = take_part(rest, '\t')) {
+        Parts items(record, '\t');
+        while (const Item deel = items.next()) {
             const std::string_view item = trimmed(*deel);
             const std::string sleutel = sleutel_van(item);
             if (sleutel == "dnr")
-                voeg_rij_toe(waarde_van(item), rest);
+                voeg_rij_toe(waarde_van(item), items);
             else if (const auto gezet = zet_rubriek_veld(rubriek_, sleutel, waarde_van(item)); !gezet)
                 meld(sleutel, gezet.error());
         }
@@ -47,10 +50,10 @@ class Vuller {
     }
 
     // An entry is its "dnr" item and six more that go by their place; only a pause uses them.
-    void voeg_rij_toe(std::string_view inr, Items& rest) {
-        std::array<Items, 6> bijbehorend;
-        for (Items& item : bijbehorend)
-            if (const Items deel = take_part(rest, '\t')) item = trimmed(*deel);
+    void voeg_rij_toe(std::string_view inr, Parts& items) {
+        std::array<Item, 6> bijbehorend;
+        for (Item& item : bijbehorend)
+            item = items.next();
 
         const std::optional<std::int16_t> nummer = int16_of(inr);
         int n = nummer.value_or(0);
@@ -59,55 +62,51 @@ class Vuller {
             n = 0;
             inr = "0";
         }
-        const int rij = doel_.grid.append_row();
-        doel_.grid.set_text(rij, kolom_inr, inr);
         if (n < 0) meld("dnr", fout_index);
-        if (const std::string& deelnemer = doel_.schedule.deelnemer(n); n > 0 && !deelnemer.empty())
-            vul_combinatie(rij, n, deelnemer);
-        else
-            vul_pauze(rij, inr, bijbehorend[0], bijbehorend[1]);
-    }
-
-    // Only an upper-case "P" carries a length in minutes and a text.
-    void vul_pauze(int rij, std::string_view inr, const Items& lengte, const Items& tekst) {
-        std::string_view naam = "pauze";
+        Cellen cellen(kolom_laatste + 1);
+        cellen[kolom_inr] = inr;
         std::int32_t minuten = 0;
-        if (inr == "P") {
-            if (const std::optional<std::int32_t> gelezen = int32_of(lengte.value_or("")))
-                minuten = *gelezen;
-            else
-                meld("dnr", fout_overloop);
-            naam = tekst.value_or(naam);
-        }
-        doel_.grid.set_text(rij, kolom_naam, naam);
+        if (const std::string& deelnemer = doel_.schedule.deelnemer(n); n > 0 && !deelnemer.empty())
+            vul_combinatie(cellen, n, deelnemer);
+        else
+            minuten = vul_pauze(cellen, inr, bijbehorend[0], bijbehorend[1]);
+        const int rij = doel_.grid.append_row(std::move(cellen));
         doel_.grid.set_row_value(rij, minuten);
     }
 
-    void vul_combinatie(int rij, int n, std::string_view deelnemer) {
-        const RecordItems record(deelnemer);
-        const DisciplineSleutels& sleutels = sleutels_van(rubriek_.rcom);
-        const auto zet = [&](int kolom, std::string_view tekst) { doel_.grid.set_text(rij, kolom, tekst); };
-        const auto met = [](std::string_view begin, auto... vlaggen) {
-            std::string tekst(begin);
-            (tekst.append(vlaggen), ...);
-            return tekst;
-        };
+    // Only an upper-case "P" carries a length, which is the result, and a text.
+    std::int32_t vul_pauze(Cellen& cellen, std::string_view inr, const Item& lengte, const Item& tekst) {
+        cellen[kolom_naam] = "pauze";
+        if (inr != "P") return 0;
+        if (tekst) cellen[kolom_naam] = trimmed(*tekst);
+        const std::optional<std::int32_t> minuten = int32_of(lengte.value_or(""));
+        if (!minuten) meld("dnr", fout_overloop);
+        return minuten.value_or(0);
+    }
 
-        zet(kolom_hnr, hoofdstelnummer(n, record, doel_.schedule.hoofdstelnummerautomatisch));
-        zet(kolom_cnr, record.waarde("co"));
-        std::string naam = met(record.waarde("na"), handicap_tekst(rubriek_.rid, rubriek_.rcom, record),
-                               selectie_tekst(rubriek_.rcom, record), impuls_tekst(rubriek_.rcom, record));
+    void vul_combinatie(Cellen& cellen, int n, std::string_view deelnemer) const {
+        const RecordItems record(deelnemer);
+        const std::int16_t ringtype = rubriek_.rcom;
+        const DisciplineSleutels& sleutels = sleutels_van(ringtype);
+
+        cellen[kolom_hnr] = hoofdstelnummer(n, record, doel_.schedule.hoofdstelnummerautomatisch);
+        cellen[kolom_cnr] = record.waarde("co");
+        std::string& naam = cellen[kolom_naam];
+        naam = record.waarde("na");
+        naam.append(handicap_tekst(rubriek_.rid, ringtype, record))
+            .append(selectie_tekst(ringtype, record))
+            .append(impuls_tekst(ringtype, record));
         // The star in front of a name stands for a coupé horse in this discipline and no other.
         if (naam.starts_with('*')) naam.erase(0, 1);
         if (!sleutels.coupe.empty() && record.staat_aan(sleutels.coupe)) naam.insert(0, "*");
-        zet(kolom_naam, naam);
-        zet(kolom_hc, handicap_kolom(rubriek_.rid, rubriek_.rcom, record));
-        zet(kolom_paard, met(record.waarde("pa"), resultaat_tekst(rubriek_.rcom, record)));
-        zet(kolom_vader, record.waarde("va"));
-        zet(kolom_vereniging, record.waarde("ve"));
-        zet(kolom_kl, sleutels.klasse.empty() ? std::string_view() : record.waarde(sleutels.klasse));
+        cellen[kolom_hc] = handicap_kolom(rubriek_.rid, ringtype, record);
+        cellen[kolom_paard] = record.waarde("pa");
+        cellen[kolom_paard].append(resultaat_tekst(ringtype, record));
+        cellen[kolom_vader] = record.waarde("va");
+        cellen[kolom_vereniging] = record.waarde("ve");
+        if (!sleutels.klasse.empty()) cellen[kolom_kl] = record.waarde(sleutels.klasse);
         const std::string_view categorie = record.waarde("ca");
-        zet(kolom_cat, categorie_namen(categorie, rubriek_.rcom, categorie));
+        cellen[kolom_cat] = categorie_namen(categorie, ringtype, categorie);
     }
 
     const RoosterDoel& doel_;

@@ -68,8 +68,8 @@ bool is_mennen(std::int16_t ringtype) {
 std::vector<int> gekozen_nummers(std::string_view selectie) {
     const std::string nummers = removed(removed(selectie, " "), "/");
     std::vector<int> gekozen;
-    std::optional<std::string_view> rest = nummers;
-    while (const std::optional<std::string_view> deel = take_part(rest, ',')) {
+    Parts delen(nummers, ',');
+    while (const std::optional<std::string_view> deel = delen.next()) {
         const std::optional<std::int16_t> nummer = int16_of(*deel);
         if (nummer && *nummer >= 1 && *nummer <= hoogste_rubriek) gekozen.push_back(*nummer);
     }

@@ -34,7 +34,7 @@ std::string_view zoek_waarde(std::string_view sleutel, std::string_view record) 
     for (std::size_t begin = 0;;) {
         const std::string_view rest = record.substr(begin);
         const std::size_t tab = rest.find('\t');
-        if (rest.size() > sleutel.size() && rest[sleutel.size()] == ':' && rest.starts_with(sleutel)) {
+        if (is_item_van(rest, sleutel)) {
             const std::size_t after = sleutel.size() + 1;
             // A key may itself hold a tab; the value still ends at the first tab behind it.
             return rest.substr(after, std::min(rest.find('\t', after), rest.size()) - after);
@@ -44,20 +44,33 @@ std::string_view zoek_waarde(std::string_view sleutel, std::string_view record) 
     }
 }
 
-RecordItems::RecordItems(std::string_view record) : rest_(record) {
-    while (aantal_ < items_.size()) {
-        const std::optional<std::string_view> item = take_part(rest_, '\t');
+RecordItems::RecordItems(std::string_view record) {
+    Parts items(record, '\t');
+    while (aantal_ < meeste_items) {
+        const std::optional<std::string_view> item = items.next();
         if (!item) return;
-        const std::size_t colon = item->find(':');
-        if (colon == std::string_view::npos) continue;
-        items_[aantal_++] = {item->substr(0, colon), item->substr(colon + 1)};
+        items_[aantal_++] = *item;
+        std::size_t vak = eerste_vak(*item);
+        while (vakken_[vak] != 0)
+            vak = (vak + 1) % aantal_vakken;
+        vakken_[vak] = static_cast<std::uint8_t>(aantal_);
     }
+    rest_ = items.rest();
+}
+
+std::size_t RecordItems::eerste_vak(std::string_view item) {
+    if (item.size() < 2) return 0;
+    return (7U * static_cast<unsigned char>(item[0]) + 31U * static_cast<unsigned char>(item[1])) % aantal_vakken;
 }
 
 std::string_view RecordItems::waarde(std::string_view sleutel) const {
-    for (const Item& item : std::span(items_).first(aantal_))
-        if (item.sleutel == sleutel) return item.waarde;
-    return rest_ ? zoek_waarde(sleutel, *rest_) : std::string_view();
+    // Items that begin alike stand behind each other in the order of the record, so the first of two equal keys is
+    // found. A key of one letter has its ":" as the second.
+    const std::size_t eerste = sleutel.size() >= 2 ? eerste_vak(sleutel) : eerste_vak(std::string(sleutel) + ":");
+    for (std::size_t vak = eerste; vakken_[vak] != 0; vak = (vak + 1) % aantal_vakken)
+        if (const std::string_view item = items_[vakken_[vak] - 1U]; is_item_van(item, sleutel))
+            return item.substr(sleutel.size() + 1);
+    return zoek_waarde(sleutel, rest_);
 }
 
 std::string zet_waarde(std::string_view sleutel, std::string_view record, std::string_view waarde) {
@@ -69,8 +82,8 @@ std::string zet_waarde(std::string_view sleutel, std::string_view record, std::s
     };
     const bool leeg = trimmed(waarde).empty();
     bool gevonden = false;
-    std::optional rest = record;
-    while (const std::optional<std::string_view> deel = take_part(rest, '\t')) {
+    Parts delen(record, '\t');
+    while (const std::optional<std::string_view> deel = delen.next()) {
         const std::string_view item = trimmed(*deel);
         if (!heeft_sleutel(item, sleutel)) {
             voeg_toe(item);

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,6 +12,11 @@ namespace tavelo {
 [[nodiscard]] std::string sleutel_van(std::string_view item);
 // The text after the first ":", trimmed; "" when there is no ":".
 [[nodiscard]] std::string_view waarde_van(std::string_view item);
+
+// Whether an item is of exactly that key, as it is written.
+[[nodiscard]] inline bool is_item_van(std::string_view item, std::string_view sleutel) {
+    return item.size() > sleutel.size() && item[sleutel.size()] == ':' && item.starts_with(sleutel);
+}
 
 // The value of the first item whose key is exactly `sleutel`, up to the next tab, not trimmed; "" when there is none.
 [[nodiscard]] std::string_view zoek_waarde(std::string_view sleutel, std::string_view record);
@@ -26,13 +30,16 @@ class RecordItems {
     [[nodiscard]] bool staat_aan(std::string_view sleutel) const { return waarde(sleutel) == "1"; }
 
   private:
-    struct Item {
-        std::string_view sleutel;
-        std::string_view waarde;
-    };
-    std::array<Item, 64> items_; // more than the suite writes; what follows is searched where it stands
+    static constexpr std::size_t meeste_items =
+        64; // more than the suite writes; what follows is searched where it stands
+    static constexpr std::size_t aantal_vakken = 128; // twice as many, so that most keys are found at once
+    // Where the search for an item that begins so starts; the first two letters decide.
+    [[nodiscard]] static std::size_t eerste_vak(std::string_view item);
+
+    std::array<std::string_view, meeste_items> items_;
     std::size_t aantal_ = 0;
-    std::optional<std::string_view> rest_;
+    std::array<std::uint8_t, aantal_vakken> vakken_{}; // number of an item from 1; 0 is free
+    std::string_view rest_;
 };
 
 // The record with the value of every item of that key replaced, or the items dropped when `waarde` is blank. Without

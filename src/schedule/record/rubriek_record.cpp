@@ -5,6 +5,7 @@
 #include "basis/text.h"
 #include "schedule/record/items.h"
 
+#include <algorithm>
 #include <charconv>
 #include <type_traits>
 
@@ -160,19 +161,20 @@ std::expected<void, std::string> zet_rubriek_veld(RubriekRecord& rubriek, std::s
 std::span<const RubriekLijstVeld> rubriek_lijst_velden() { return lijst_velden; }
 
 std::expected<void, std::string> lees_rubriek_lijst(std::string_view record, RubriekLijstRecord& entry) {
-    std::optional rest = record;
-    while (const std::optional<std::string_view> item = take_part(rest, '\t')) {
-        const std::size_t colon = item->find(':');
-        if (colon == std::string_view::npos) continue;
-        const std::string sleutel = sleutel_van(*item);
-        const std::string_view waarde = item->substr(colon + 1);
-        for (const RubriekLijstVeld& veld : lijst_velden) {
-            if (veld.sleutel != sleutel) continue;
-            if (const auto* tekst = std::get_if<std::string L::*>(&veld.veld))
-                entry.*(*tekst) = waarde;
-            else if (auto gezet = zet_getal(entry.*std::get<std::int16_t L::*>(veld.veld), waarde); !gezet)
-                return gezet;
-        }
+    // The suite writes the keys in the order of the table, so the field behind the last one is tried first.
+    auto verwacht = lijst_velden.begin();
+    Parts items(record, '\t');
+    while (const std::optional<std::string_view> item = items.next()) {
+        auto veld = verwacht;
+        if (veld == lijst_velden.end() || !is_item_van(*item, veld->sleutel))
+            veld = std::ranges::find(lijst_velden, sleutel_van(*item), &RubriekLijstVeld::sleutel);
+        if (veld == lijst_velden.end()) continue;
+        verwacht = veld + 1;
+        const std::string_view waarde = item->substr(item->find(':') + 1);
+        if (const auto* tekst = std::get_if<std::string L::*>(&veld->veld))
+            entry.*(*tekst) = waarde;
+        else if (auto gezet = zet_getal(entry.*std::get<std::int16_t L::*>(veld->veld), waarde); !gezet)
+            return gezet;
     }
     return {};
 }

@@ -14,8 +14,8 @@ enum class Handicap { geen, discipline, deze_rubriek, niet_deze_rubriek };
 
 Handicap handicap_van(std::string_view rid, std::int16_t ringtype, const RecordItems& combinatie) {
     Handicap handicap = staat_aan(sleutels_van(ringtype).handicap, combinatie) ? Handicap::discipline : Handicap::geen;
-    std::optional rest = combinatie.waarde("rhc");
-    while (const std::optional<std::string_view> element = take_part(rest, ',')) {
+    Parts elementen(combinatie.waarde("rhc"), ',');
+    while (const std::optional<std::string_view> element = elementen.next()) {
         if (!element->starts_with(rid)) continue;
         const std::string_view achter = element->substr(rid.size());
         if (achter == "(1)") handicap = Handicap::deze_rubriek;

@@ -16,9 +16,9 @@ namespace tavelo {
 
 namespace {
 
-constexpr int twips_per_punt = 600;              // width of the area for one point of size at 100 %
-constexpr double vulling = 0.95;                 // part of width and height that texts may take
-constexpr double bandhoogte = 2.2;               // height of the heading band, in lines
+constexpr int twips_per_punt = 600; // width of the area for one point of size at 100 %
+constexpr double vulling = 0.95;    // part of width and height that texts may take
+constexpr double bandhoogte = 2.2;  // height of the heading band, in lines
 constexpr std::string_view lang_leeg = "________";
 constexpr std::string_view middel_leeg = "_____";
 constexpr std::string_view kort_leeg = "__";

@@ -1,5 +1,6 @@
 #include "ui/settings/frmInstellingen.h"
 
+#include "platform/qt_text.h"
 #include "ui/settings/frmInstellingen_besturing.h"
 #include "ui/settings/plaats_dialoog.h"
 
@@ -41,6 +42,7 @@ class Bladzijde : public QScrollArea {
         setWidget(inhoud);
         setWidgetResizable(true);
         setFrameShape(NoFrame);
+        setFocusPolicy(Qt::NoFocus);
         inhoud->setAutoFillBackground(false);
         viewport()->setAutoFillBackground(false);
     }
@@ -97,20 +99,22 @@ frmInstellingen::frmInstellingen(Bediening& bediening, ColourDialog& kleurendial
     auto* bladen = new QTabWidget;
     bladen->setObjectName("tabInstellingen");
     bladen->setAccessibleName("Instellingen");
+    bladen->addTab(new Bladzijde(maak_weergave()), "&Weergave");
+    bladen->addTab(new Bladzijde(maak_excel()), "E&xcel");
+
     auto* knoppen = new QDialogButtonBox;
     QPushButton* ok = knoppen->addButton("OK", QDialogButtonBox::AcceptRole);
     ok->setObjectName("btnOK");
-    ok->setDefault(true);
     QPushButton* annuleren = knoppen->addButton("Annuleren", QDialogButtonBox::RejectRole);
     annuleren->setObjectName("btnCancel");
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(annuleren, &QPushButton::clicked, this, &QDialog::reject);
 
+    // In this order: it is also that of the Tab key.
     auto* indeling = new QVBoxLayout(this);
     indeling->addWidget(bladen);
     indeling->addWidget(knoppen);
-    bladen->addTab(new Bladzijde(maak_weergave()), "&Weergave");
-    bladen->addTab(new Bladzijde(maak_excel()), "E&xcel");
+    ok->setDefault(true); // only now: the dialog must know its default button to go back to it
 
     laad();
     ga_naast_voorbeeld();
@@ -134,7 +138,7 @@ void frmInstellingen::done(int uitkomst) {
 void frmInstellingen::laad() {
     std::vector<std::string> namen;
     for (const QString& naam : lettertypen())
-        namen.push_back(naam.toStdString());
+        namen.push_back(utf8(naam));
     const DialoogInhoud inhoud = inhoud_van(bediening_.programma.instellingen, namen);
     for (std::size_t i = 0; i < inhoud.size(); ++i)
         toegang_[i].toon(inhoud[i]);
@@ -160,7 +164,7 @@ void frmInstellingen::kies_kleur(KleurKnop& knop) {
 }
 
 frmInstellingen::Toegang& frmInstellingen::toegang(const QString& naam) {
-    return toegang_[besturing_index(naam.toStdString())];
+    return toegang_[besturing_index(utf8(naam))];
 }
 
 QWidget* frmInstellingen::maak_weergave() {
@@ -292,14 +296,13 @@ QWidget* frmInstellingen::maak_lettertype() {
     lijst->installEventFilter(new WielMetFocus(lijst));
     toegang("CmbFontName") = {[this, lijst](const Getoond& inhoud) {
                                   const auto naam = waarde<std::string>(inhoud);
-                                  lijst->setCurrentIndex(naam ? lijst->findText(QString::fromStdString(*naam)) : -1);
+                                  lijst->setCurrentIndex(naam ? lijst->findText(qt_text(*naam)) : -1);
                                   // A name that is not in the list is only hinted at, in grey.
-                                  lijst->setPlaceholderText(
-                                      QString::fromStdString(bediening_.programma.instellingen.fontname));
+                                  lijst->setPlaceholderText(qt_text(bediening_.programma.instellingen.fontname));
                               },
                               [lijst]() -> Getoond {
                                   if (lijst->currentIndex() < 0) return {};
-                                  return lijst->currentText().toStdString();
+                                  return utf8(lijst->currentText());
                               }};
     connect(lijst, &QComboBox::currentIndexChanged, this, &frmInstellingen::ververs);
     return lijst;
@@ -324,6 +327,7 @@ QScrollBar* frmInstellingen::maak_grootte(const char* naam, QLabel& waarde_label
     balk->setPageStep(grote_stap_tekstgrootte);
     balk->setValue(begin_tekstgrootte);
     balk->setFocusPolicy(Qt::StrongFocus);
+    balk->setInvertedControls(false); // right and up make it larger, not smaller
     balk->setMinimumSize(balklengte, balkhoogte);
     balk->installEventFilter(new WielMetFocus(balk));
     waarde_label.setNum(begin_tekstgrootte);

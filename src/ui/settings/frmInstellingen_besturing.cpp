@@ -1,5 +1,6 @@
 #include "ui/settings/frmInstellingen_besturing.h"
 
+#include "platform/qt_text.h"
 #include "ui/settings/instellingen_dialoog.h"
 
 #include <QFontDatabase>
@@ -18,7 +19,7 @@ class KolomToets : public QValidator {
 
     [[nodiscard]] State validate(QString& text, int& /*position*/) const override {
         text = text.toUpper();
-        return is_kolomkeuze(text.toStdString()) ? Acceptable : Invalid;
+        return is_kolomkeuze(utf8(text)) ? Acceptable : Invalid;
     }
 };
 
@@ -33,7 +34,7 @@ KleurKnop::KleurKnop(QWidget* parent) : QPushButton(parent) {
 void KleurKnop::zet_kleur(std::optional<std::int32_t> kleur) {
     kleur_ = kleur;
     QPalette palet;
-    if (kleur) palet.setColor(QPalette::Button, QColor(*kleur & 0xFF, (*kleur >> 8) & 0xFF, (*kleur >> 16) & 0xFF));
+    if (kleur) palet.setColor(QPalette::Button, qt_colour(*kleur));
     setPalette(palet);
 }
 
@@ -68,7 +69,7 @@ void KleurKnop::paintEvent(QPaintEvent* /*event*/) {
 
 KolomLijst::KolomLijst(QWidget* parent) : QComboBox(parent) {
     for (const std::string& letter : kolomletters())
-        addItem(QString::fromStdString(letter));
+        addItem(qt_text(letter));
     setEditable(true);
     setInsertPolicy(NoInsert);
     setCompleter(nullptr);
@@ -79,13 +80,13 @@ KolomLijst::KolomLijst(QWidget* parent) : QComboBox(parent) {
 }
 
 std::optional<std::string> KolomLijst::kolom() const {
-    const std::string tekst = currentText().toStdString();
+    const std::string tekst = utf8(currentText());
     if (geeft_niets_ || !is_kolomkeuze(tekst)) return std::nullopt;
     return tekst;
 }
 
 void KolomLijst::zet_kolom(const std::optional<std::string>& kolom) {
-    setCurrentIndex(kolom ? findText(QString::fromStdString(*kolom)) : -1);
+    setCurrentIndex(kolom ? findText(qt_text(*kolom)) : -1);
     if (currentIndex() < 0) clearEditText();
     geeft_niets_ = !kolom;
 }

@@ -94,6 +94,7 @@ void toon_kolommen(Bediening& bediening) {
     const int rij = rooster.row();
     const int bovenste_rij = rooster.top_row();
     const int einde_selectie = rooster.selection_column();
+    rooster.set_redraw(false); // the view sees the new list, not the empty one before it
     vul_xls_rooster(rooster, programma.grdExcel, Meldingen::zwijgen, programma, bediening.omgeving.berichten,
                     bediening.omgeving.muisaanwijzer);
     rooster.set_row(rij);

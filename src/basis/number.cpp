@@ -12,16 +12,17 @@ namespace {
 
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
-// Digits of a base; those of a number too large for a double end in infinity, which fits no field.
-double unsigned_in_base(std::string_view digits, int base) {
-    double value = 0;
+// Digits of a base, nothing when there are none; those of a number too large for a double end in infinity, which fits
+// no field.
+std::optional<double> unsigned_in_base(std::string_view digits, int base) {
+    std::optional<double> value;
     for (const char c : digits) {
         int digit = base;
         if (is_digit(c)) digit = c - '0';
         if (c >= 'a' && c <= 'f') digit = c - 'a' + 10;
         if (c >= 'A' && c <= 'F') digit = c - 'A' + 10;
         if (digit >= base) break;
-        value = value * base + digit;
+        value = value.value_or(0) * base + digit;
     }
     return value;
 }

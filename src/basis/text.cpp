@@ -49,6 +49,9 @@ constexpr char32_t upper(char32_t c) {
     }
 }
 
+// A byte that goes on with the character of the bytes before it.
+constexpr bool is_continuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
 struct Decoded {
     char32_t code_point;
     std::size_t length;
@@ -56,7 +59,7 @@ struct Decoded {
 
 Decoded decode(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const auto continued = [&](std::size_t i) { return i < text.size() && (byte(i) & 0xC0U) == 0x80U; };
+    const auto continued = [&](std::size_t i) { return i < text.size() && is_continuation(text[i]); };
     const auto bits = [&](std::size_t i) { return static_cast<char32_t>(byte(i) & 0x3FU); };
     const unsigned char first = byte(0);
     constexpr Decoded invalid{0xFFFD, 1};
@@ -156,7 +159,13 @@ std::string join(std::span<const std::string> parts, std::string_view separator)
 }
 
 std::string_view last(std::string_view text, std::size_t count) {
-    return text.substr(text.size() - std::min(count, text.size()));
+    std::size_t begin = text.size();
+    for (; count > 0 && begin > 0; --count) {
+        --begin;
+        while (begin > 0 && is_continuation(text[begin]))
+            --begin;
+    }
+    return text.substr(begin);
 }
 
 std::string from_windows_1252(std::string_view bytes) {

@@ -43,7 +43,7 @@ class Parts {
     bool at_end_ = false;
 };
 
-// The last `count` bytes; used for texts of digits.
+// The last `count` characters.
 [[nodiscard]] std::string_view last(std::string_view text, std::size_t count);
 
 // Decodes Windows-1252. The five bytes without a character become the control character of the same code.

@@ -6,6 +6,7 @@
 #include "vocabulary/codeTaal.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tavelo {
 
@@ -106,6 +107,7 @@ std::string leeftijd_van(std::string_view geboortedatum, std::string_view vandaa
     double maanden = nu.maand - geboren.maand;
     if (nu.dag - geboren.dag < 0) maanden -= 1;
     if (maanden < 0) jaren -= 1;
+    if (!std::isfinite(jaren)) return ""; // a year with hundreds of digits
     return number_text(jaren);
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <type_traits>
 
 namespace tavelo {
@@ -97,6 +98,14 @@ std::expected<void, std::string> zet_getal(std::int16_t& veld, std::string_view 
     return {};
 }
 
+// A number that is kept as text: "05" as "5", "x" as "0".
+std::expected<void, std::string> zet_getal_als_tekst(std::string& veld, std::string_view waarde) {
+    const double getal = leading_number(waarde);
+    if (!std::isfinite(getal)) return std::unexpected(std::string(fout_overloop));
+    veld = number_text(getal);
+    return {};
+}
+
 // The number behind the name of a row of keys, written without leading zeros.
 std::optional<int> volgnummer(std::string_view sleutel, std::string_view naam) {
     if (!sleutel.starts_with(naam)) return std::nullopt;
@@ -133,11 +142,8 @@ std::expected<void, std::string> zet_rubriek_veld(RubriekRecord& rubriek, std::s
     for (const RubriekVeld& veld : velden) {
         if (const auto* tekst = std::get_if<std::string R::*>(&veld.veld)) {
             if (sleutel != veld.sleutel) continue;
-            // This one text is a number: "05" is kept as "5", "x" as "0".
-            if (sleutel == "rajl")
-                rubriek.rajl = number_text(leading_number(waarde));
-            else
-                rubriek.*(*tekst) = waarde;
+            if (sleutel == "rajl") return zet_getal_als_tekst(rubriek.rajl, waarde);
+            rubriek.*(*tekst) = waarde;
             return {};
         }
         if (const auto* getal = std::get_if<std::int16_t R::*>(&veld.veld)) {

@@ -1,0 +1,105 @@
+#include "basis/text.h"
+
+#include <gtest/gtest.h>
+
+namespace tavelo {
+namespace {
+
+using Delen = std::vector<std::string_view>;
+
+TEST(Text, trimmen_neemt_alleen_spaties_weg) {
+    EXPECT_EQ(trimmed("  a b  "), "a b");
+    EXPECT_EQ(trimmed("\t a \n"), "\t a \n");
+    EXPECT_EQ(trimmed("\xC2\xA0"
+                      "a"),
+              "\xC2\xA0"
+              "a"); // a hard space is a character like any other
+    EXPECT_EQ(trimmed("   "), "");
+    EXPECT_EQ(trimmed(""), "");
+}
+
+TEST(Text, hoofd_en_kleine_letters_vouwen_alle_letters_van_windows_1252) {
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte)
+        bytes.push_back(static_cast<char>(byte));
+    const std::string alles = from_windows_1252(bytes);
+    EXPECT_EQ(lower_case("ABCXYZ ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞ ŠŒŽŸ"), "abcxyz àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþ šœžÿ");
+    EXPECT_EQ(upper_case("abcxyz àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþ šœžÿ"), "ABCXYZ ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞ ŠŒŽŸ");
+    // Folding is one to one: there and back gives every character of the page in one case.
+    EXPECT_EQ(lower_case(upper_case(lower_case(alles))), lower_case(alles));
+    EXPECT_EQ(code_points(upper_case(alles)).size(), 256U);
+}
+
+TEST(Text, wat_geen_letterpaar_heeft_blijft_staan) {
+    for (const std::string_view tekst : {"ß", "×", "÷", "µ", "ƒ", "ª", "€", "[@`{", "ĳ", "Ω"}) {
+        EXPECT_EQ(lower_case(tekst), tekst);
+        EXPECT_EQ(upper_case(tekst), tekst);
+    }
+}
+
+TEST(Text, bytes_die_geen_tekst_zijn_blijven_bij_het_vouwen_wat_ze_zijn) {
+    EXPECT_EQ(lower_case("A\xFF"
+                         "B\xC3"),
+              "a\xFF"
+              "b\xC3");
+}
+
+TEST(Text, vervangen_zoekt_niet_nog_eens_in_wat_vervangen_is) {
+    EXPECT_EQ(replaced("aaaa", "aa", "a"), "aa");
+    EXPECT_EQ(replaced("a--b", "-", "--"), "a----b");
+    EXPECT_EQ(replaced("abc", "", "x"), "abc");
+    EXPECT_EQ(removed("a*b**c", "*"), "abc");
+}
+
+TEST(Text, splitsen_geeft_ook_lege_delen) {
+    EXPECT_EQ(split("a--b", "-"), (Delen{"a", "", "b"}));
+    EXPECT_EQ(split("", "-"), Delen{""});
+    EXPECT_EQ(split("-", "-"), (Delen{"", ""}));
+}
+
+TEST(Text, delen_lopen_de_tekst_af_zoals_splitsen_hem_deelt) {
+    for (const std::string_view tekst : {"", "a", "\t", "a\t", "\ta", "a\t\tb"}) {
+        Delen delen;
+        Parts parts(tekst, '\t');
+        while (const auto deel = parts.next())
+            delen.push_back(*deel);
+        EXPECT_EQ(parts.rest(), "");
+        EXPECT_EQ(delen, split(tekst, "\t"));
+    }
+}
+
+TEST(Text, samenvoegen_zet_het_teken_alleen_tussen_de_delen) {
+    EXPECT_EQ(join(std::vector<std::string>{"a", "", "b"}, ", "), "a, , b");
+    EXPECT_EQ(join(std::vector<std::string>{"a"}, ", "), "a");
+    EXPECT_EQ(join(std::vector<std::string>{}, ", "), "");
+}
+
+TEST(Text, de_laatste_tekens_breken_geen_teken_doormidden) {
+    EXPECT_EQ(last("1234", 3), "234");
+    EXPECT_EQ(last("12", 3), "12");
+    EXPECT_EQ(last("00€", 2), "0€");
+    EXPECT_EQ(last("abc", 0), "");
+    EXPECT_EQ(last("", 2), "");
+}
+
+TEST(Text, windows_1252_wordt_gelezen_met_zijn_vijf_lege_plaatsen) {
+    EXPECT_EQ(from_windows_1252("caf\xE9 \x80 \x8A \x9F \xFF"), "café € Š Ÿ ÿ");
+    EXPECT_EQ(code_points(from_windows_1252("\x81\x8D\x8F\x90\x9D")), U"\x81\x8D\x8F\x90\x9D");
+    EXPECT_EQ(from_windows_1252("\x82\x83\x84\x85\x86\x87\x88\x89\x8B\x8C\x8E"), "‚ƒ„…†‡ˆ‰‹ŒŽ");
+    EXPECT_EQ(from_windows_1252("\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9E"), "‘’“”•–—˜™š›œž");
+    EXPECT_EQ(from_windows_1252(std::string_view("a\0b\x1A", 4)), std::string("a\0b\x1A", 4));
+}
+
+TEST(Text, code_points_lezen_utf_8_en_melden_wat_het_niet_is) {
+    EXPECT_EQ(code_points("aé€😀"), U"aé€😀");
+    EXPECT_EQ(code_points("\xC0\x80"), U"\xFFFD\xFFFD");           // overlong
+    EXPECT_EQ(code_points("\xED\xA0\x80"), U"\xFFFD\xFFFD\xFFFD"); // half of a pair
+    EXPECT_EQ(code_points("\xE2\x82"), U"\xFFFD\xFFFD");           // cut off
+    std::string terug;
+    for (const char32_t teken : std::u32string(U"aé€😀"))
+        append_utf8(terug, teken);
+    EXPECT_EQ(terug, "aé€😀");
+}
+
+} // namespace
+} // namespace tavelo

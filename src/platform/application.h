@@ -1,0 +1,15 @@
+// The toolkit's application, at whose edge an exception out of an event handler stops.
+#pragma once
+
+#include <QApplication>
+
+namespace tavelo {
+
+class Application final : public QApplication {
+  public:
+    using QApplication::QApplication;
+    // The event counts as handled and the program goes on; what went wrong is written to the log.
+    bool notify(QObject* receiver, QEvent* event) override;
+};
+
+} // namespace tavelo

@@ -1,0 +1,79 @@
+#include "platform/dialogs.h"
+
+#include "app/programma.h"
+#include "platform/codeWindowPos.h"
+#include "platform/qt_text.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include <algorithm>
+
+namespace tavelo {
+
+namespace {
+
+bool something_stays_on_top() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::ranges::any_of(windows, [](const QWidget* w) { return w->isVisible() && staat_bovenaan(*w); });
+}
+
+// The settings dialog while it asks for a colour, else the operator's window.
+QWidget* parent_window(const DialogOwner& owner) {
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal ? modal : owner.window.data();
+}
+
+void prepare(QDialog& dialog) {
+    if (something_stays_on_top()) dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+}
+
+} // namespace
+
+void QtMessageBox::show(std::string_view text) {
+    QMessageBox box(QMessageBox::NoIcon, qt_text(programma_titel), qt_text(text), QMessageBox::Ok,
+                    parent_window(owner_));
+    box.setTextFormat(Qt::PlainText); // a file may hold anything
+    prepare(box);
+    box.exec();
+}
+
+QStringList name_filters(std::string_view filter) {
+    const QStringList parts = qt_text(filter).split('|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+        filters += QStringLiteral("%1 (%2)").arg(parts[i], QString(parts[i + 1]).replace(';', ' '));
+    return filters;
+}
+
+std::optional<std::string> QtOpenDialog::ask(const OpenRequest& request) {
+    QFileDialog dialog(parent_window(owner_), QStringLiteral("Rooster openen"), qt_text(request.folder));
+    dialog.setObjectName(QStringLiteral("dlgOpenen"));
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // the labels name the patterns themselves
+    const QStringList filters = name_filters(request.filter);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(request.filter_index - 1));
+    dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Zoeken in:"));
+    dialog.setLabelText(QFileDialog::FileName, QStringLiteral("Bestands&naam:"));
+    dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Bestandstypen:"));
+    dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Openen"));
+    dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Annuleren"));
+    prepare(dialog);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    return utf8(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
+}
+
+std::optional<std::int32_t> QtColourDialog::ask(std::int32_t preselected) {
+    QColorDialog dialog(qt_colour(preselected), parent_window(owner_));
+    dialog.setObjectName(QStringLiteral("dlgKleur"));
+    dialog.setWindowTitle(QStringLiteral("Kleur kiezen"));
+    prepare(dialog);
+    if (dialog.exec() != QDialog::Accepted) return {};
+    return kern_colour(dialog.currentColor());
+}
+
+} // namespace tavelo

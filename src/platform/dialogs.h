@@ -1,0 +1,47 @@
+// Message box, open dialog and colour dialog of the toolkit. They belong to the operator's window and come out above a
+// participant window that stays on top, so that none of them waits unseen below it.
+#pragma once
+
+#include "basis/seams.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace tavelo {
+
+// The window that the dialogs belong to, once it is there. It may go before the dialogs do.
+struct DialogOwner {
+    QPointer<QWidget> window;
+};
+
+class QtMessageBox final : public MessageBox {
+  public:
+    explicit QtMessageBox(const DialogOwner& owner) : owner_(owner) {}
+    void show(std::string_view text) override;
+
+  private:
+    const DialogOwner& owner_;
+};
+
+class QtOpenDialog final : public OpenDialog {
+  public:
+    explicit QtOpenDialog(const DialogOwner& owner) : owner_(owner) {}
+    [[nodiscard]] std::optional<std::string> ask(const OpenRequest& request) override;
+
+  private:
+    const DialogOwner& owner_;
+};
+
+class QtColourDialog final : public ColourDialog {
+  public:
+    explicit QtColourDialog(const DialogOwner& owner) : owner_(owner) {}
+    [[nodiscard]] std::optional<std::int32_t> ask(std::int32_t preselected) override;
+
+  private:
+    const DialogOwner& owner_;
+};
+
+// "label|patterns|label|patterns" with patterns parted by ";", as the toolkit wants it: one text for each pair.
+[[nodiscard]] QStringList name_filters(std::string_view filter);
+
+} // namespace tavelo

@@ -1,0 +1,11 @@
+#include "platform/pointer.h"
+
+#include <QGuiApplication>
+
+namespace tavelo {
+
+void QtPointer::busy() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+
+void QtPointer::normal() { QGuiApplication::restoreOverrideCursor(); }
+
+} // namespace tavelo

@@ -1,6 +1,63 @@
-#include <QApplication>
+// Makes the real parts and wires them.
+#include "app/frmIntro.h"
+#include "app/start.h"
+#include "basis/system_time.h"
+#include "excel/builtin_excel.h"
+#include "platform/application.h"
+#include "platform/debug_log.h"
+#include "platform/dialogs.h"
+#include "platform/dutch_texts.h"
+#include "platform/fonts.h"
+#include "platform/mouse_wheel.h"
+#include "platform/pointer.h"
+#include "platform/qt_text.h"
+#include "platform/settings_store.h"
+#include "platform/special_folders.h"
+#include "ui/main/frmTavelo.h"
+#if __has_include("ui/settings/frmInstellingen.h")
+#include "ui/settings/frmInstellingen.h"
+#endif
+
+#include <QLocale>
 
 int main(int argc, char** argv) {
-    QApplication toepassing(argc, argv);
-    return 0;
+    using namespace tavelo;
+
+    Application toepassing(argc, argv);
+    DutchTexts nederlands;
+    QCoreApplication::installTranslator(&nederlands);
+
+    DialogOwner eigenaar;
+    FontTextMeasure meter;
+    QtMessageBox berichten(eigenaar);
+    QtOpenDialog open_dialoog(eigenaar);
+    QtColourDialog kleur_dialoog(eigenaar);
+    SystemFileStamp tijdstempels;
+    SystemClock klok;
+    QtPointer muisaanwijzer;
+    DebugLog logboek;
+    UserSettingsStore opslag;
+    SystemFolders mappen;
+    const auto excel = builtin_excel(locale_named(utf8(QLocale::system().name().replace('_', '-'))));
+
+    Programma programma;
+    Bediening bediening{
+        programma, {meter, berichten, open_dialoog, tijdstempels, klok, muisaanwijzer, logboek, *excel}, {}, {}};
+    const auto toon_intro = [] { frmIntro().exec(); };
+    const auto instellingen = [&](frmTavelo& venster) {
+#if __has_include("ui/settings/frmInstellingen.h")
+        frmInstellingen(
+            bediening, kleur_dialoog, [&] { venster.toon_vertoningen(); }, &venster)
+            .exec();
+#else
+        static_cast<void>(venster);
+        static_cast<void>(kleur_dialoog);
+#endif
+    };
+    frmTavelo venster(bediening,
+                      {opslag, mappen, utf8(QCoreApplication::applicationDirPath()), toon_intro, instellingen});
+    eigenaar.window = &venster;
+
+    Main(programma, opslag, mouse_wheel_present, venster);
+    return Application::exec();
 }

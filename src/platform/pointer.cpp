@@ -1,5 +1,6 @@
 #include "platform/pointer.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 
 namespace tavelo {

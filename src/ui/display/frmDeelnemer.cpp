@@ -1,0 +1,178 @@
+#include "ui/display/frmDeelnemer.h"
+
+#include "platform/codeWindowPos.h"
+#include "platform/icons.h"
+#include "platform/qt_text.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+
+#include <algorithm>
+#include <utility>
+
+namespace tavelo {
+
+namespace {
+
+constexpr Schermvlak gewenste_maat{0, 0, 960, 540};
+constexpr int titelbalk = 32; // above the inside of a window, when the system has not told yet
+
+Schermvlak als_vlak(const QRect& r) { return {r.x(), r.y(), r.width(), r.height()}; }
+QRect als_rechthoek(const Schermvlak& v) { return {v.links, v.boven, v.breedte, v.hoogte}; }
+
+} // namespace
+
+std::vector<Scherm> aanwezige_schermen() {
+    std::vector<Scherm> schermen;
+    for (const QScreen* screen : QGuiApplication::screens())
+        schermen.push_back({utf8(screen->name()), als_vlak(screen->availableGeometry())});
+    return schermen;
+}
+
+frmDeelnemer::frmDeelnemer(Programma& programma, Vertoning& vertoning, std::function<void()> stel_samen,
+                           QWidget& eigenaar, const QWidget& nummervak)
+    : QWidget(&eigenaar, Qt::Window),
+      programma_(programma),
+      stel_samen_(std::move(stel_samen)),
+      eigenaar_(eigenaar),
+      nummervak_(nummervak),
+      picDeelnemer_(vertoning, this) {
+    setObjectName(QStringLiteral("frmDeelnemer"));
+    setWindowTitle(qt_text(deelnemer_bijschrift));
+    setWindowIcon(icon(Picture::program));
+    setAccessibleName(QStringLiteral("Monitorvenster met de combinatie in de ring"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    programma_.deelnemer_open = true;
+
+    const auto volg = [this] { pas_schermen_toe(aanwezige_schermen()); };
+    const auto volg_scherm = [this, volg](QScreen* screen) {
+        connect(screen, &QScreen::availableGeometryChanged, this, volg);
+    };
+    std::ranges::for_each(QGuiApplication::screens(), volg_scherm);
+    connect(qApp, &QGuiApplication::screenAdded, this, [volg, volg_scherm](QScreen* screen) {
+        volg_scherm(screen);
+        volg();
+    });
+    connect(qApp, &QGuiApplication::screenRemoved, this, volg);
+}
+
+frmDeelnemer::~frmDeelnemer() {
+    // Deleted some time after it was closed: another one may be open by then.
+    if (!gesloten_) programma_.deelnemer_open = false;
+}
+
+void frmDeelnemer::open() {
+    schermen_ = aanwezige_schermen();
+    verplaats(plaats_op(vrij_scherm()));
+    show();
+    onthoud_scherm();
+}
+
+std::optional<std::size_t> frmDeelnemer::vrij_scherm() const {
+    return publieksscherm(schermen_, als_vlak(eigenaar_.frameGeometry()), "");
+}
+
+Schermvlak frmDeelnemer::plaats_op(std::optional<std::size_t> scherm) const {
+    if (scherm) return plaats_midden(schermen_[*scherm].vlak, gewenste_maat);
+    const Schermvlak hoofdvenster = als_vlak(eigenaar_.frameGeometry());
+    const auto van_operateur = scherm_van(schermen_, hoofdvenster);
+    if (!van_operateur) return gewenste_maat;
+    const Schermvlak nummervak = als_vlak({nummervak_.mapToGlobal(QPoint(0, 0)), nummervak_.size()});
+    Schermvlak plaats = plaats_naast(schermen_[*van_operateur].vlak, hoofdvenster, nummervak, gewenste_maat);
+    // The rule places the window with its title bar; this is its inside.
+    plaats.boven += titelbalk;
+    plaats.hoogte = std::max(plaats.hoogte - titelbalk, 1);
+    return plaats;
+}
+
+void frmDeelnemer::verplaats(const Schermvlak& plaats) {
+    verplaatst_zelf_ = true;
+    setGeometry(als_rechthoek(plaats));
+    verplaatst_zelf_ = false;
+}
+
+void frmDeelnemer::onthoud_scherm() {
+    if (const auto scherm = scherm_van(schermen_, als_vlak(geometry()))) eigen_scherm_ = schermen_[*scherm].naam;
+}
+
+void frmDeelnemer::zet_beeldvullend(bool beeldvullend, std::string_view normaal_bijschrift) {
+    setWindowTitle(beeldvullend ? QString() : qt_text(normaal_bijschrift));
+    setWindowState(beeldvullend ? windowState() | Qt::WindowFullScreen : windowState() & ~Qt::WindowFullScreen);
+    zet_bovenaan(*this, beeldvullend);
+    if (beeldvullend)
+        setCursor(Qt::BlankCursor);
+    else
+        unsetCursor();
+    wakker_.set(beeldvullend);
+}
+
+void frmDeelnemer::wissel_weergave(std::string_view normaal_bijschrift) {
+    zet_beeldvullend(!beeldvullend(), normaal_bijschrift);
+    terug_beeldvullend_ = beeldvullend();
+}
+
+void frmDeelnemer::pas_schermen_toe(const std::vector<Scherm>& schermen) {
+    schermen_ = schermen;
+    if (schermen.empty() || !isVisible()) return;
+    const auto eigen = std::ranges::find(schermen, eigen_scherm_, &Scherm::naam);
+    if (eigen == schermen.end())
+        wijk_uit();
+    else if (uitgeweken_)
+        keer_terug(eigen->vlak);
+}
+
+void frmDeelnemer::wijk_uit() {
+    if (!uitgeweken_) {
+        uitgeweken_ = true;
+        terug_beeldvullend_ = beeldvullend();
+        terug_plaats_ = als_vlak(beeldvullend() ? normalGeometry() : geometry());
+    }
+    const auto ander = vrij_scherm();
+    verhuis(plaats_op(ander), beeldvullend() && ander);
+}
+
+void frmDeelnemer::keer_terug(const Schermvlak& eigen_scherm) {
+    uitgeweken_ = false;
+    // A monitor that is plugged in again may stand elsewhere on the desktop.
+    const bool staat_daar = overlap(terug_plaats_, eigen_scherm) > 0;
+    verhuis(staat_daar ? terug_plaats_ : plaats_midden(eigen_scherm, gewenste_maat), terug_beeldvullend_);
+}
+
+// A window that fills a screen does not move, so it leaves full screen first.
+void frmDeelnemer::verhuis(const Schermvlak& plaats, bool daarna_beeldvullend) {
+    if (beeldvullend()) zet_beeldvullend(false, deelnemer_bijschrift);
+    verplaats(plaats);
+    if (daarna_beeldvullend) zet_beeldvullend(true, deelnemer_bijschrift);
+}
+
+void frmDeelnemer::resizeEvent(QResizeEvent* /*event*/) {
+    picDeelnemer_.setGeometry(rect());
+    picDeelnemer_.neem_maat();
+    stel_samen_();
+    picDeelnemer_.ververs();
+}
+
+void frmDeelnemer::moveEvent(QMoveEvent* /*event*/) {
+    // The operator dragged it: it belongs where it stands now. While its own screen is away it stays a guest.
+    if (!verplaatst_zelf_ && !uitgeweken_ && isVisible()) onthoud_scherm();
+}
+
+void frmDeelnemer::keyPressEvent(QKeyEvent* event) {
+    constexpr auto storend = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
+    if (event->key() == Qt::Key_F11 && !(event->modifiers() & storend)) {
+        wissel_weergave(deelnemer_bijschrift);
+        return;
+    }
+    event->ignore();
+}
+
+void frmDeelnemer::closeEvent(QCloseEvent* event) {
+    gesloten_ = true;
+    programma_.deelnemer_open = false; // from here on nothing is composed for it
+    event->accept();
+}
+
+} // namespace tavelo

@@ -1,0 +1,77 @@
+// The participant window, for the monitor beside the ring. An empty caption marks the full-screen view: no title, frame
+// or pointer, above everything, the display kept awake.
+//
+// It knows the screen it belongs to. When that monitor goes away the window moves to another, and out of full screen
+// where only the operator's is left; when the monitor comes back, so does the window.
+#pragma once
+
+#include "app/programma.h"
+#include "platform/keep_awake.h"
+#include "ui/display/frmTekenvlak.h"
+#include "ui/display/schermkeuze.h"
+
+#include <functional>
+#include <vector>
+
+namespace tavelo {
+
+inline constexpr std::string_view deelnemer_bijschrift = "Toon combinatie (F11 voor beeldvullend)";
+// What F11 in the main window leaves as caption.
+inline constexpr std::string_view deelnemer_bijschrift_hoofdvenster = "Monitor venster (F11 voor beeldvullend)";
+
+class frmDeelnemer final : public QWidget {
+  public:
+    // `stel_samen` composes the current combination in `vertoning`. The window deletes itself when it is closed.
+    // `nummervak` is the control of the owner that stays in sight.
+    frmDeelnemer(Programma& programma, Vertoning& vertoning, std::function<void()> stel_samen, QWidget& eigenaar,
+                 const QWidget& nummervak);
+    ~frmDeelnemer() override;
+
+    // Shows it on the screen where it belongs, without taking the focus from the operator.
+    void open();
+    void ververs() { picDeelnemer_.ververs(); }
+
+    [[nodiscard]] bool beeldvullend() const { return windowTitle().isEmpty(); }
+    // The key F11; `normaal_bijschrift` is the caption of the normal view.
+    void wissel_weergave(std::string_view normaal_bijschrift);
+
+    // Takes the present screens; called again whenever they change.
+    void pas_schermen_toe(const std::vector<Scherm>& schermen);
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void zet_beeldvullend(bool beeldvullend, std::string_view normaal_bijschrift);
+    void verplaats(const Schermvlak& plaats);
+    void verhuis(const Schermvlak& plaats, bool daarna_beeldvullend);
+    void wijk_uit();
+    void keer_terug(const Schermvlak& eigen_scherm);
+    // A screen without the main window, and the place on it; without one beside the main window.
+    [[nodiscard]] std::optional<std::size_t> vrij_scherm() const;
+    [[nodiscard]] Schermvlak plaats_op(std::optional<std::size_t> scherm) const;
+    void onthoud_scherm();
+
+    Programma& programma_;
+    std::function<void()> stel_samen_;
+    const QWidget& eigenaar_;
+    const QWidget& nummervak_;
+    VertoningWidget picDeelnemer_;
+    KeepAwake wakker_;
+    bool gesloten_ = false;
+
+    std::vector<Scherm> schermen_;
+    std::string eigen_scherm_; // name of the screen that it belongs to
+    bool uitgeweken_ = false;  // that screen is away
+    bool terug_beeldvullend_ = false;
+    Schermvlak terug_plaats_;
+    bool verplaatst_zelf_ = false; // a move by the program does not change where it belongs
+};
+
+// The screens as they are now: their names and usable places.
+[[nodiscard]] std::vector<Scherm> aanwezige_schermen();
+
+} // namespace tavelo

@@ -1,0 +1,47 @@
+// Where the participant window goes, from the names and places of the screens alone. Positions in device-independent
+// pixels of the desktop.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace tavelo {
+
+struct Schermvlak {
+    int links = 0;
+    int boven = 0;
+    int breedte = 0;
+    int hoogte = 0;
+
+    bool operator==(const Schermvlak&) const = default;
+    [[nodiscard]] int rechts() const { return links + breedte; }
+    [[nodiscard]] int onder() const { return boven + hoogte; }
+};
+
+struct Scherm {
+    std::string naam;
+    Schermvlak vlak;
+};
+
+// The area that two rectangles share.
+[[nodiscard]] long long overlap(const Schermvlak& a, const Schermvlak& b);
+
+// The screen that shows most of the window; the first one when none shows any of it. Nothing without screens.
+[[nodiscard]] std::optional<std::size_t> scherm_van(std::span<const Scherm> schermen, const Schermvlak& venster);
+
+// The screen for the public: the one named `voorkeur` when it is there, else the first that does not hold the main
+// window. Nothing when the operator's screen is the only one.
+[[nodiscard]] std::optional<std::size_t> publieksscherm(std::span<const Scherm> schermen,
+                                                        const Schermvlak& hoofdvenster, std::string_view voorkeur);
+
+// The normal view in the middle of a screen of its own.
+[[nodiscard]] Schermvlak plaats_midden(const Schermvlak& scherm, const Schermvlak& wens);
+
+// The normal view on the operator's screen: beside the main window where there is room, else in the corner away from
+// the number box, which it never covers.
+[[nodiscard]] Schermvlak plaats_naast(const Schermvlak& scherm, const Schermvlak& hoofdvenster,
+                                      const Schermvlak& nummervak, const Schermvlak& wens);
+
+} // namespace tavelo

@@ -1,0 +1,119 @@
+// The operator's window. It holds no rule: an event goes to a rule beside this file and what came of it is shown.
+#pragma once
+
+#include "app/start.h"
+#include "platform/dialogs.h"
+#include "ui/display/frmTekenvlak.h"
+#include "ui/main/bediening.h"
+#include "ui/main/frmRooster.h"
+#include "ui/main/huidige_combinatie.h"
+#include "ui/main/indeling.h"
+#include "ui/main/laad_tavelo.h"
+#include "ui/main/open_rooster.h"
+
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QTimer>
+#include <QToolButton>
+
+#include <array>
+#include <functional>
+
+class QGroupBox;
+class QHBoxLayout;
+class QLabel;
+
+namespace tavelo {
+
+class ElidedLabel;
+class frmDeelnemer;
+
+class frmTavelo;
+
+// What the window needs besides the rules' surroundings. References outlive the window.
+struct TaveloOmgeving {
+    SettingsStore& opslag;
+    const SpecialFolders& mappen;
+    std::string programma_map;
+    std::function<void()> toon_intro;                      // returns when the splash has closed
+    std::function<void(frmTavelo& eigenaar)> instellingen; // the settings dialog, modal
+};
+
+class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloVenster {
+  public:
+    frmTavelo(Bediening& bediening, TaveloOmgeving omgeving);
+    ~frmTavelo() override;
+
+    void laad() override;
+
+    // Shows what the rules made of the program's value.
+    void toon();
+    // Only the two displays, after a composition.
+    void toon_vertoningen();
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+  private:
+    void bouw_menu() override;
+    void toon_intro() override;
+    void muiswiel_hook() override;
+    void toon_venster() override;
+    void sluit_andere_vensters() override;
+    void muiswiel_unhook() override;
+
+    void bouw_bediening();
+    void bouw_nummervak(QHBoxLayout& rij);
+    void bouw_bladerknoppen(QHBoxLayout& rij);
+    void bouw_slotknoppen(QHBoxLayout& rij);
+    void bouw_snelknoppen(QHBoxLayout& rij);
+    void bouw_details();
+    void zet_tabvolgorde();
+    void ontwerp_plaatsen();
+
+    void kies_nummer(const QString& tekst);
+    void druk_blader(Blader richting);
+    void druk_slot(int slot, Muisknop knop);
+    void open_bestand();
+    void toon_instellingen();
+    void wissel_deelnemer();
+    void tik();
+
+    void toon_slots();
+    void toon_omschrijving();
+    void muiswiel(QWheelEvent& gebeurtenis);
+
+    Bediening& bediening_;
+    Programma& programma_;
+    TaveloOmgeving omgeving_;
+
+    QWidget* vlak_ = nullptr; // the inside of the window
+    QWidget* paneel_ = nullptr;
+    QLineEdit* txtINR_ = nullptr;
+    std::array<QToolButton*, 3> btnBlader_{};
+    std::array<QToolButton*, 2> btnRooster_{};
+    std::array<QToolButton*, 3> btnFast_{};
+    RoosterView* grdRooster_ = nullptr;
+    ElidedLabel* lblRoosterOmschrijving_ = nullptr;
+    QGroupBox* frameRoosterinstellingen_ = nullptr;
+    struct Detail {
+        ElidedLabel* label;
+        std::string RubriekLabels::*tekst;
+    };
+    std::vector<Detail> details_;
+    VertoningWidget* picDeelnemer_ = nullptr;
+    QPointer<frmDeelnemer> deelnemer_;
+    QTimer timer1_;
+
+    Plaatsen ontwerp_;
+    int label_links_ = 0;   // twips
+    int wieldraai_ = 0;     // eighths of a degree turned since the last notch
+    bool tikt_ = false;     // a tick is at work
+    bool schrijft_ = false; // the window writes its own number box
+    bool afgesloten_ = false;
+};
+
+} // namespace tavelo

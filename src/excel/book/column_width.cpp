@@ -1,5 +1,7 @@
 #include "excel/book/column_width.h"
 
+#include "basis/text.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -14,36 +16,45 @@ constexpr double points_per_pixel = 0.75;
 constexpr double most_characters = 65536.0;
 
 struct DigitAdvance {
-    std::string_view font;
-    double em; // advance of the widest digit, as a part of the font's size
+    std::string_view font; // in small letters
+    double em;             // advance of the widest digit, as a part of the font's size
 };
 
 constexpr auto digit_advances = std::to_array<DigitAdvance>({
-    {"Aptos Narrow", 0.5},
-    {"Arial", 0.556},
-    {"Arial Narrow", 0.456},
-    {"Calibri", 0.507},
-    {"Cambria", 0.554},
-    {"Candara", 0.55},
-    {"Century Gothic", 0.554},
-    {"Comic Sans MS", 0.61},
-    {"Consolas", 0.55},
-    {"Courier", 0.6},
-    {"Courier New", 0.6},
-    {"Garamond", 0.469},
-    {"Georgia", 0.614},
-    {"Segoe UI", 0.539},
-    {"Tahoma", 0.546},
-    {"Times New Roman", 0.5},
-    {"Trebuchet MS", 0.524},
-    {"Verdana", 0.636},
+    {"aptos narrow", 0.5},
+    {"arial", 0.556},
+    {"arial narrow", 0.456},
+    {"calibri", 0.507},
+    {"cambria", 0.554},
+    {"candara", 0.55},
+    {"century gothic", 0.554},
+    {"comic sans ms", 0.61},
+    {"consolas", 0.55},
+    {"courier", 0.6},
+    {"courier new", 0.6},
+    {"garamond", 0.469},
+    {"georgia", 0.614},
+    {"malgun gothic", 0.55},
+    {"맑은 고딕", 0.55},
+    {"ms pgothic", 0.546},
+    {"ＭＳ Ｐゴシック", 0.546},
+    {"pmingliu", 0.5},
+    {"新細明體", 0.5},
+    {"segoe ui", 0.539},
+    {"simsun", 0.5},
+    {"宋体", 0.5},
+    {"tahoma", 0.546},
+    {"times new roman", 0.5},
+    {"trebuchet ms", 0.524},
+    {"verdana", 0.636},
 });
 constexpr double usual_advance = 0.556;
 
 } // namespace
 
 int digit_pixels(std::string_view font_name, double points) {
-    const auto* known = std::ranges::find(digit_advances, font_name, &DigitAdvance::font);
+    const std::string name = lower_case(font_name);
+    const auto* known = std::ranges::find(digit_advances, name, &DigitAdvance::font);
     const double em = known == digit_advances.end() ? usual_advance : known->em;
     const double size = std::clamp(points, 1.0, 409.0) * pixels_per_point; // 409 points is Excel's largest font
     return std::max(1, static_cast<int>(std::lround(size * em)));

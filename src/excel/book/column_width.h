@@ -6,7 +6,8 @@
 
 namespace tavelo {
 
-// Pixels of the widest digit of a font at 96 dots per inch; at least 1. An unknown font counts as Arial.
+// Pixels of the widest digit of a font at 96 dots per inch; at least 1. Capitals in the name do not matter; an unknown
+// font counts as Arial.
 [[nodiscard]] int digit_pixels(std::string_view font_name, double points);
 
 // `characters` is the width as stored: digits with the padding included (.xls stores it in 1/256 of a character).

@@ -3,6 +3,7 @@
 #include "excel/xls/cell_styles.h"
 #include "excel/xls/code_page.h"
 #include "excel/xls/compound_file.h"
+#include "excel/xls/decryption.h"
 #include "excel/xls/sheet_cells.h"
 
 #include <utility>
@@ -69,7 +70,6 @@ std::expected<void, OpenFailure> XlsWorkbook::read_globals() {
     std::size_t depth = 1;
     std::string bundle_name; // BIFF4 workbooks have the sheets inside, each behind a record with its name
     for (std::size_t place = cursor.place(); const auto record = cursor.next(); place = cursor.place()) {
-        if (record->type == biff::filepass) return std::unexpected(OpenFailure::password);
         if (is_bof(record->type)) {
             if (depth == 1 && kind == SubstreamKind::book_4)
                 add_sheet(std::exchange(bundle_name, {}), kind_of_sheet(kind_of_bof(*record)), place);
@@ -202,6 +202,7 @@ std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xls(std::vector<std::
                                                                                         : OpenFailure::not_a_workbook);
         bytes = std::move(*stream);
     }
+    if (unlock(bytes) == Lock::password) return std::unexpected(OpenFailure::password);
     auto workbook = std::make_unique<XlsWorkbook>(std::move(bytes));
     if (const auto read = workbook->read_globals(); !read) return std::unexpected(read.error());
     return workbook;

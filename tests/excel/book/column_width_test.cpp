@@ -9,6 +9,8 @@ TEST(Kolombreedte, het_cijfer_is_zo_breed_als_op_het_scherm) {
     EXPECT_EQ(digit_pixels("Calibri", 12), 8);
     EXPECT_EQ(digit_pixels("Calibri", 48), 32);
     EXPECT_EQ(digit_pixels("Arial", 10), 7);
+    EXPECT_EQ(digit_pixels("CALIBRI", 12), 8);
+    EXPECT_EQ(digit_pixels("ＭＳ Ｐゴシック", 11), 8);
     EXPECT_EQ(digit_pixels("Een lettertype dat niemand kent", 10), 7);
     EXPECT_EQ(digit_pixels("Arial", 0), 1);
 }

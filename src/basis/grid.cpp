@@ -103,7 +103,7 @@ void Grid::highlight_row(int row) {
 }
 
 void Grid::set_top_row(int row) {
-    if (row < 0 || row >= rows() || row == top_row_) return;
+    if (row < 0 || row >= rows() || std::max(row, fixed_rows_) == top_row()) return;
     top_row_ = row;
     tell_current();
 }
@@ -141,7 +141,7 @@ void Grid::keep_positions_inside() {
     row_ = std::clamp(row_, 0, std::max(rows() - 1, 0));
     column_ = std::clamp(column_, 0, std::max(columns_ - 1, 0));
     selection_column_ = std::clamp(selection_column_, 0, std::max(columns_ - 1, 0));
-    top_row_ = std::clamp(top_row_, std::min(fixed_rows_, std::max(rows() - 1, 0)), std::max(rows() - 1, 0));
+    top_row_ = std::clamp(top_row_, 0, std::max(rows() - 1, 0));
 }
 
 void Grid::tell_reset() const {

@@ -4,6 +4,7 @@
 // and keys do.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -62,7 +63,8 @@ class Grid {
     // Current cell in the last column of `row` and the selection back to column 1: the row is highlighted.
     void highlight_row(int row);
 
-    [[nodiscard]] int top_row() const { return top_row_; }
+    // The first row shown below the fixed ones.
+    [[nodiscard]] int top_row() const { return std::max(top_row_, fixed_rows_); }
     void set_top_row(int row);
 
     // Appends a row and gives its position. Missing texts are empty, texts beyond the last column are dropped.

@@ -61,12 +61,11 @@ void vraag_bestand(Bediening& bediening, int slot) {
 
 void laad_roosterbestand(Bediening& bediening, int slot) {
     Programma& p = bediening.programma;
+    if (!bestandbestaat(p.rooster_bestand)) return; // it keeps its slot: a file on a share may come back
     const Omgeving& omgeving = bediening.omgeving;
     const auto bijschrift =
         lees_rooster(p.rooster_bestand, {p.grdRooster, p.schedule, p.labels, omgeving.berichten, omgeving.logboek});
     if (!bijschrift) {
-        p.bijschrift = bijschrift_naamloos;
-        // A file that cannot be reached keeps its slot: it may come back.
         if (bijschrift.error() == GeenRooster::andere_eerste_regel) slot_van(p, slot) = {};
         return;
     }
@@ -105,6 +104,7 @@ void laad_rooster(Bediening& bediening, int slot) {
     const Omgeving& omgeving = bediening.omgeving;
     const BusyPointer bezig(omgeving.muisaanwijzer);
     wis_rooster(bediening);
+    p.bijschrift = bijschrift_naamloos; // an empty list does not bear the name of the last file
     p.grdRooster.set_redraw(false);
     const std::string soort = slot_van(p, slot).extensie;
     if (soort == "rst") laad_roosterbestand(bediening, slot);

@@ -57,9 +57,8 @@ class Rc4Cipher : public Cipher {
     [[nodiscard]] bool fits(ByteSpan locked, ByteSpan locked_digest, Digest digest) const {
         Rc4 rc4(key_of_block(0));
         const auto unlock_part = [&rc4](ByteSpan part) {
-            std::vector<std::byte> bytes(part.begin(), part.end());
-            for (std::byte& value : bytes)
-                value ^= rc4.next();
+            std::vector<std::byte> bytes(part.size());
+            std::ranges::transform(part, bytes.begin(), [&rc4](std::byte value) { return value ^ rc4.next(); });
             return bytes;
         };
         const std::vector<std::byte> verifier = unlock_part(locked);

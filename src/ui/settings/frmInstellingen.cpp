@@ -291,6 +291,8 @@ QWidget* frmInstellingen::maak_lettertype() {
     lijst->setAccessibleName("Lettertype");
     lijst->addItems(lettertypen());
     lijst->setItemDelegate(new LettertypeTekenaar(lijst));
+    // A list below the box: a menu over the whole screen would cover the preview.
+    lijst->setStyleSheet("QComboBox { combobox-popup: 0; }");
     lijst->setMaxVisibleItems(15);
     if (auto* view = qobject_cast<QListView*>(lijst->view())) view->setUniformItemSizes(true);
     lijst->installEventFilter(new WielMetFocus(lijst));

@@ -99,8 +99,7 @@ QSize LettertypeTekenaar::sizeHint(const QStyleOptionViewItem& option, const QMo
 void LettertypeTekenaar::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     const QString naam = index.data().toString();
-    const QList<QFontDatabase::WritingSystem> schriften = QFontDatabase::writingSystems(naam);
-    if (!schriften.isEmpty() && !schriften.contains(QFontDatabase::Latin)) return;
+    if (QFontDatabase::writingSystems(naam).contains(QFontDatabase::Symbol)) return;
     option->font.setFamily(naam);
     option->fontMetrics = QFontMetrics(option->font);
 }

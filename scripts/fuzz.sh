@@ -24,7 +24,7 @@ for target in "${targets[@]}"; do
     rm -rf "$seeds"
     mkdir -p "$corpus" "$seeds"
     case $target in
-    *xlsx*) find examples tests -name '*.xlsx' -exec cp --target-directory="$seeds" {} + ;;
+    *xlsx*) find examples tests fuzz -name '*.xlsx*' -exec cp --target-directory="$seeds" {} + ;;
     *xls*) find examples tests -name '*.xls' -exec cp --target-directory="$seeds" {} + ;;
     *schedule*) cp --target-directory="$seeds" examples/*.rst ;;
     *merge*) cat examples/dressuur.rst examples/springen.rst >"$seeds/ander"; cat examples/mennen.rst{,} >"$seeds/zelfde" ;;

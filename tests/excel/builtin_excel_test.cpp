@@ -45,10 +45,21 @@ TEST_F(BuiltinExcel, een_startlijst_komt_in_het_grid_zoals_excel_haar_toont) {
     ASSERT_EQ(grid.rows(), 4);
     ASSERT_EQ(grid.columns(), 12);
     EXPECT_EQ(row(0).front(), "Tijd");
-    EXPECT_EQ(row(1), (std::vector<std::string>{"9:00", "1", "001", "Zoë van der Meer", "Bonfire", "Welt Hit II",
+    EXPECT_EQ(row(1), (std::vector<std::string>{"09:00", "1", "001", "Zoë van der Meer", "Bonfire", "Welt Hit II",
                                                 "Fürst Heinrich", "bruin", "ruin", "9", "KWPN", "RV De Lâge Wâlden"}));
     EXPECT_EQ(grid.text(3, 3), "Ångström, Åsa");
     EXPECT_EQ(grid.text(3, 4), "Prins \"Blitz\"");
+}
+
+TEST_F(BuiltinExcel, dezelfde_lijst_in_het_oude_formaat_geeft_dezelfde_teksten) {
+    lees(startlijst);
+    std::vector<std::vector<std::string>> rows;
+    for (int i = 0; i < grid.rows(); ++i)
+        rows.push_back(row(i));
+    EXPECT_TRUE(lees(TAVELO_TEST_DATA "/excel/startlijst.xls"));
+    ASSERT_EQ(grid.rows(), 4);
+    for (int i = 0; i < grid.rows(); ++i)
+        EXPECT_EQ(row(i), rows[static_cast<std::size_t>(i)]);
 }
 
 TEST_F(BuiltinExcel, de_kolommen_hebben_de_verhouding_van_het_blad) {
@@ -125,13 +136,13 @@ TEST_F(BuiltinExcel, de_opgeslagen_waarde_van_een_cel_is_er_ook) {
     auto book = books->Open(startlijst).value();
     auto sheet = book->Sheets().value()->Next().value();
     EXPECT_EQ(sheet->Cells(2, 1).value()->Value(), "0.375");
-    EXPECT_EQ(sheet->Cells(2, 1).value()->Text(), "9:00");
+    EXPECT_EQ(sheet->Cells(2, 1).value()->Text(), "09:00");
     EXPECT_EQ(sheet->Cells(2, 4).value()->Value(), "Zoë van der Meer");
     EXPECT_EQ(sheet->Cells(99, 99).value()->Text(), "");
     EXPECT_FALSE(sheet->Cells(0, 1).has_value());
     EXPECT_TRUE(book->Close().has_value());
     EXPECT_FALSE(book->Sheets().has_value());
-    EXPECT_EQ(sheet->Cells(2, 1).value()->Text(), "9:00"); // what was taken from it stays usable
+    EXPECT_EQ(sheet->Cells(2, 1).value()->Text(), "09:00"); // what was taken from it stays usable
 }
 
 TEST_F(BuiltinExcel, een_startlijst_wordt_door_de_letters_van_de_instellingen_het_rooster) {
@@ -143,7 +154,7 @@ TEST_F(BuiltinExcel, een_startlijst_wordt_door_de_letters_van_de_instellingen_he
     open_excel_rooster(startlijst, 0, programma, *excel, messages, pointer);
     ASSERT_EQ(programma.grdRooster.rows(), 5);
     EXPECT_EQ(programma.grdRooster.text(1, kolom_naam), "Ruiter");
-    EXPECT_EQ(programma.grdRooster.text(3, kolom_nrtijd), "9:07");
+    EXPECT_EQ(programma.grdRooster.text(3, kolom_nrtijd), "09:07");
     EXPECT_EQ(programma.grdRooster.text(3, kolom_hnr), "002");
     EXPECT_EQ(programma.grdRooster.text(3, kolom_naam), "Daniël Müller");
     EXPECT_TRUE(messages.shown.empty());

@@ -83,7 +83,9 @@ std::string_view trim_xml_space(std::string_view text) {
 
 std::optional<std::string_view> XmlAttributes::find(std::string_view name) const {
     for (const char* const* pair = pairs_; *pair != nullptr; pair += 2) {
-        if (local_name(pair[0]) == name) return pair[1];
+        const std::string_view full = pair[0];
+        if (!full.ends_with(name)) continue;
+        if (full.size() == name.size() || full[full.size() - name.size() - 1] == ':') return pair[1];
     }
     return std::nullopt;
 }

@@ -1,0 +1,84 @@
+#!/usr/bin/env python3
+"""Opening a start list of 4,000 x 12 cells in Excel, as ratios against other programs in one run: lines "ratio ...".
+
+    bench/excel.py [TAVELO_DUMP]        # default build/release/src/tavelo-dump
+
+Every program runs as a process of its own, start-up included, and ours reads every displayed text and writes it as CSV.
+unzip -p (the floor), python3-openpyxl, python3-xlrd and LibreOffice are compared with when they are installed.
+Needs python3-xlsxwriter. Times are processor times, the best of a number of runs: what else the machine does only adds to them.
+"""
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import zipfile
+
+WORTEL = pathlib.Path(__file__).resolve().parent.parent
+PYTHON = "/usr/bin/python3"
+OPENPYXL = """
+import sys, openpyxl
+for rij in openpyxl.load_workbook(sys.argv[1], data_only=True).worksheets[0].iter_rows(values_only=True):
+    for waarde in rij: str(waarde)
+"""
+XLRD = """
+import sys, xlrd
+blad = xlrd.open_workbook(sys.argv[1]).sheet_by_index(0)
+for rij in range(blad.nrows):
+    for waarde in blad.row_values(rij): str(waarde)
+"""
+
+
+def meet(opdracht, keren=25):
+    """(seconds, peak MiB) of the fastest run; None when the program is not there or fails."""
+    beste = None
+    for _ in range(keren):
+        proces = subprocess.Popen(opdracht, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        _, status, gebruik = os.wait4(proces.pid, 0)
+        duur = gebruik.ru_utime + gebruik.ru_stime
+        proces.returncode = os.waitstatus_to_exitcode(status)
+        if proces.returncode != 0:
+            return None
+        if beste is None or duur < beste[0]:
+            beste = (duur, gebruik.ru_maxrss / 1024)
+    return beste
+
+
+def heeft(module):
+    return subprocess.run([PYTHON, "-c", f"import {module}"], capture_output=True).returncode == 0
+
+
+def main():
+    dump = sys.argv[1] if len(sys.argv) > 1 else str(WORTEL / "build/release/src/tavelo-dump")
+    with tempfile.TemporaryDirectory() as naam:
+        map_ = pathlib.Path(naam)
+        for rijen in (4000, 16000):
+            subprocess.run([PYTHON, WORTEL / "tools/maak_startlijsten.py", map_, "--rijen", str(rijen)], check=True)
+        for soort in ("xlsx", "xls"):
+            lijst = str(map_ / f"startlijst_4000.{soort}")
+            groot = str(map_ / f"startlijst_16000.{soort}")
+            ons = meet([dump, "--blad", "1", lijst])
+            if ons is None:
+                sys.exit(f"{dump} cannot open {lijst}")
+            print(f"{soort}: {ons[0] * 1000:.1f} ms, {ons[1]:.1f} MiB")
+            print(f"ratio {soort} four times the rows: {meet([dump, '--blad', '1', groot])[0] / ons[0]:.2f} times the time")
+            if soort == "xlsx":
+                vloer = meet(["unzip", "-p", lijst])
+                if vloer:
+                    print(f"ratio xlsx to unzip -p: {ons[0] / vloer[0]:.2f} times the time")
+                uitgepakt = sum(deel.file_size for deel in zipfile.ZipFile(groot).infolist()) / 2**20
+                piek = meet([dump, "--blad", "1", groot], 3)[1]
+                print(f"ratio xlsx memory to the unpacked workbook of 16,000 rows: {piek / uitgepakt:.2f}")
+            ander = ("openpyxl", OPENPYXL) if soort == "xlsx" else ("xlrd", XLRD)
+            if heeft(ander[0]):
+                duur = meet([PYTHON, "-c", ander[1], lijst], 5)[0]
+                print(f"ratio {ander[0]} to ours, {soort}: {duur / ons[0]:.1f} times the time")
+            if shutil.which("soffice"):
+                opdracht = ["soffice", "--headless", "--convert-to", "csv", "--outdir", naam, lijst]
+                if kantoor := meet(opdracht, 3):
+                    print(f"ratio LibreOffice to ours, {soort}: {kantoor[0] / ons[0]:.1f} times the time")
+
+
+if __name__ == "__main__":
+    main()

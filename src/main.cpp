@@ -14,9 +14,7 @@
 #include "platform/settings_store.h"
 #include "platform/special_folders.h"
 #include "ui/main/frmTavelo.h"
-#if __has_include("ui/settings/frmInstellingen.h")
 #include "ui/settings/frmInstellingen.h"
-#endif
 
 #include <QLocale>
 
@@ -26,6 +24,7 @@ int main(int argc, char** argv) {
     Application toepassing(argc, argv);
     DutchTexts nederlands;
     QCoreApplication::installTranslator(&nederlands);
+    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands)); // of the dialogs; a workbook has the system's
 
     DialogOwner eigenaar;
     FontTextMeasure meter;
@@ -45,14 +44,8 @@ int main(int argc, char** argv) {
         programma, {meter, berichten, open_dialoog, tijdstempels, klok, muisaanwijzer, logboek, *excel}, {}, {}};
     const auto toon_intro = [] { frmIntro().exec(); };
     const auto instellingen = [&](frmTavelo& venster) {
-#if __has_include("ui/settings/frmInstellingen.h")
-        frmInstellingen(
-            bediening, kleur_dialoog, [&] { venster.toon_vertoningen(); }, &venster)
-            .exec();
-#else
-        static_cast<void>(venster);
-        static_cast<void>(kleur_dialoog);
-#endif
+        const auto vertoond = [&] { venster.toon_vertoningen(); };
+        frmInstellingen(bediening, kleur_dialoog, vertoond, &venster).exec();
     };
     frmTavelo venster(bediening,
                       {opslag, mappen, utf8(QCoreApplication::applicationDirPath()), toon_intro, instellingen});

@@ -109,6 +109,11 @@ RoosterView::RoosterView(Grid& grid, QWidget* parent) : QTableView(parent), grid
     setWordWrap(false);
     setShowGrid(true);
 
+    // The widths of the columns are made for a narrow letter of this size.
+    QFont letter(QStringLiteral("Arial"));
+    letter.setPixelSize(12);
+    setFont(letter);
+    horizontalHeader()->setFont(letter);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(1);
@@ -186,7 +191,7 @@ void RoosterView::toon_selectie() {
         selectionModel()->clear();
         return;
     }
-    const auto [first, last] = std::minmax(grid_.column(), grid_.selection_column());
+    const auto [first, last] = std::minmax({grid_.column(), grid_.selection_column()});
     selectionModel()->select({model_.index(row, first), model_.index(row, last)}, QItemSelectionModel::ClearAndSelect);
     selectionModel()->setCurrentIndex(model_.index(row, grid_.column()), QItemSelectionModel::NoUpdate);
 }

@@ -1,0 +1,107 @@
+#include "schedule/record/items.h"
+
+#include <gtest/gtest.h>
+
+namespace tavelo {
+namespace {
+
+TEST(Items, een_sleutel_wordt_getrimd_en_klein_gemaakt) {
+    EXPECT_EQ(sleutel_van(" RKLA :L"), "rkla");
+    EXPECT_EQ(sleutel_van("a:b:c"), "a");
+    EXPECT_EQ(sleutel_van("zonder"), "");
+    EXPECT_EQ(sleutel_van(":x"), "");
+}
+
+TEST(Items, een_waarde_wordt_getrimd_en_loopt_tot_het_eind) {
+    EXPECT_EQ(waarde_van("a: b:c "), "b:c");
+    EXPECT_EQ(waarde_van("a:"), "");
+    EXPECT_EQ(waarde_van("zonder"), "");
+}
+
+TEST(Items, een_waarde_wordt_gezocht_op_de_letterlijke_sleutel) {
+    EXPECT_EQ(zoek_waarde("co", "na:Jan\tco:12"), "12");
+    EXPECT_EQ(zoek_waarde("co", "d_coup:1"), "");
+    EXPECT_EQ(zoek_waarde("co", "xco:1\tco:2"), "2");
+    EXPECT_EQ(zoek_waarde("co", "Co:1"), "");
+    EXPECT_EQ(zoek_waarde("co", " co:1"), "");
+    EXPECT_EQ(zoek_waarde("co", "co :1"), "");
+    EXPECT_EQ(zoek_waarde("co", "co"), "");
+    EXPECT_EQ(zoek_waarde("co", ""), "");
+}
+
+TEST(Items, een_gezochte_waarde_wordt_niet_getrimd_en_de_eerste_wint) {
+    EXPECT_EQ(zoek_waarde("na", "na: Jan \tna:Piet"), " Jan ");
+    EXPECT_EQ(zoek_waarde("na", "na:\tna:Piet"), "");
+    EXPECT_EQ(zoek_waarde("na", "na:a:b"), "a:b");
+}
+
+TEST(Items, een_gedeeld_record_antwoordt_als_zoek_waarde) {
+    std::string lang = "co:eerste\tco:tweede\tlos\t:leeg\ta:1\t";
+    for (int i = 0; i < 100; ++i)
+        lang += "k" + std::to_string(i) + ":" + std::to_string(i) + "\t";
+    lang += "laatste:x";
+    for (const std::string& record : {lang, std::string(), std::string("co"), std::string("na:Jan\td_coup:1")}) {
+        const RecordItems items(record);
+        for (const std::string_view sleutel : {"co", "a", "los", "na", "d_coup", "coup", "laatste", "k", "CO"})
+            EXPECT_EQ(items.waarde(sleutel), zoek_waarde(sleutel, record)) << sleutel;
+        for (int i = 0; i < 100; ++i) {
+            const std::string sleutel = "k" + std::to_string(i);
+            EXPECT_EQ(items.waarde(sleutel), zoek_waarde(sleutel, record)) << sleutel;
+        }
+    }
+}
+
+TEST(Items, een_waarde_wordt_vervangen_waar_haar_sleutel_staat) {
+    EXPECT_EQ(zet_waarde("co", "na:Jan\tco:1\tpa:Bles", "2"), "na:Jan\tco:2\tpa:Bles");
+    EXPECT_EQ(zet_waarde("co", "CO :1\tco:1", "2"), "co:2\tco:2");
+    EXPECT_EQ(zet_waarde("co", "d_coup:1", " 2 "), "d_coup:1\tco: 2 "); // the value as given
+}
+
+TEST(Items, een_sleutel_die_ontbreekt_komt_achteraan) {
+    EXPECT_EQ(zet_waarde("co", "na:Jan", "2"), "na:Jan\tco:2");
+    EXPECT_EQ(zet_waarde("co", "", "2"), "co:2");
+    EXPECT_EQ(zet_waarde("co", "na:Jan", ""), "na:Jan");
+    EXPECT_EQ(zet_waarde("co", "na:Jan", " "), "na:Jan\tco: "); // blank is not empty
+}
+
+TEST(Items, een_lege_waarde_laat_het_item_vallen) {
+    EXPECT_EQ(zet_waarde("co", "na:Jan\tco:1\tpa:Bles\tco:3", ""), "na:Jan\tpa:Bles");
+    EXPECT_EQ(zet_waarde("co", "na:Jan\tco:1", "  "), "na:Jan");
+    EXPECT_EQ(zet_waarde("co", "co:1", ""), "");
+    EXPECT_EQ(zet_waarde("co", "", ""), "");
+}
+
+TEST(Items, de_andere_items_worden_getrimd_en_een_tab_aan_de_rand_verdwijnt) {
+    EXPECT_EQ(zet_waarde("co", " na:Jan \t\t pa:Bles\tco:1", "2"), "na:Jan\t\tpa:Bles\tco:2");
+    EXPECT_EQ(zet_waarde("co", "\tna:Jan\t", ""), "na:Jan");
+    EXPECT_EQ(zet_waarde("co", "\t\tna:Jan\t\t", ""), "\tna:Jan\t"); // one on each side
+}
+
+TEST(Items, een_sterrenlijst_wordt_een_lijst_met_kommas) {
+    EXPECT_EQ(klasse_tekst("*L*M*"), "L, M");
+    EXPECT_EQ(klasse_tekst("L"), "L");
+    EXPECT_EQ(klasse_tekst("**L**"), ", L, "); // one star on each side
+    EXPECT_EQ(klasse_tekst("*"), "");
+    EXPECT_EQ(klasse_tekst(""), "");
+}
+
+TEST(Items, elk_ringtype_heeft_zijn_discipline) {
+    const std::array<std::string_view, 19> codes = {"D", "S", "S",  "S",  "S", "S",  "S", "MD", "MV", "MV",
+                                                    "S", "S", "AD", "AD", "S", "AD", "S", "S",  "MV"};
+    for (std::size_t ringtype = 0; ringtype < codes.size(); ++ringtype)
+        EXPECT_EQ(discipline_code(static_cast<std::int16_t>(ringtype)), codes[ringtype]) << ringtype;
+    for (const std::int16_t ringtype : std::initializer_list<std::int16_t>{-1, 19, 32767, -32768})
+        EXPECT_EQ(discipline_code(ringtype), "");
+}
+
+TEST(Items, afdelingsdressuur_is_overal_dressuur) {
+    EXPECT_EQ(discipline_van(0), Discipline::dressuur);
+    EXPECT_EQ(discipline_van(13), Discipline::dressuur);
+    EXPECT_EQ(discipline_van(17), Discipline::springen);
+    EXPECT_EQ(discipline_van(7), Discipline::mennen_dressuur);
+    EXPECT_EQ(discipline_van(18), Discipline::mennen_vaardigheid);
+    EXPECT_EQ(discipline_van(19), Discipline::geen);
+}
+
+} // namespace
+} // namespace tavelo

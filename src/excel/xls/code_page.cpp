@@ -1,6 +1,7 @@
 #include "excel/xls/code_page.h"
 
 #include "basis/text.h"
+#include "excel/xls/code_page_932.h"
 
 #include <algorithm>
 #include <array>
@@ -11,6 +12,7 @@ namespace {
 
 constexpr char32_t replacement = 0xFFFD;
 constexpr unsigned macintosh_roman = 10000;
+constexpr unsigned japanese = 932;
 
 struct UpperHalf {
     unsigned code_page;
@@ -137,6 +139,7 @@ std::string utf8_of(std::u16string_view text) {
 }
 
 std::string utf8_of(std::string_view bytes, unsigned code_page) {
+    if (code_page == japanese) return utf8_of(characters_of_932(bytes));
     const std::u16string_view upper_half = upper_half_of(code_page);
     std::string text;
     text.reserve(bytes.size());

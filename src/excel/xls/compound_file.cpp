@@ -59,25 +59,44 @@ class CompoundFile {
         return !entries_.empty();
     }
 
-    [[nodiscard]] const Entry* find(std::u16string_view name) const {
-        if (const Entry* entry = find_in_root(name)) return entry;
-        const auto found =
-            std::ranges::find_if(entries_, [name](const Entry& entry) { return is_stream(entry, name); });
-        return found == entries_.end() ? nullptr : &*found;
+    // Streams with these names, most likely first: those of the root before any other, because a workbook can have
+    // workbooks embedded in it, and in each place by the order of the names. A damaged directory may hold them outside
+    // the tree, or with a wrong type.
+    [[nodiscard]] std::vector<const Entry*> named(std::initializer_list<std::u16string_view> names) const {
+        constexpr std::size_t most = 16; // a directory full of the same name must not take all day
+        std::vector<const Entry*> found;
+        const auto add = [&](const Entry& entry, std::u16string_view name) {
+            if (found.size() < most && entry.name == name && entry.type != EntryType::storage &&
+                std::ranges::find(found, &entry) == found.end())
+                found.push_back(&entry);
+        };
+        const std::vector<const Entry*> of_root = entries_of_root();
+        for (const std::u16string_view name : names) {
+            for (const Entry* entry : of_root)
+                add(*entry, name);
+        }
+        for (const std::u16string_view name : names) {
+            for (const Entry& entry : entries_)
+                add(entry, name);
+        }
+        return found;
     }
 
-    [[nodiscard]] std::vector<std::byte> read(const Entry& entry) const {
+    enum class Sectors { large, small };
+
+    // Where a stream of this size lies.
+    [[nodiscard]] Sectors sectors_of(const Entry& entry) const {
+        return entry.size < mini_cutoff_ ? Sectors::small : Sectors::large;
+    }
+
+    [[nodiscard]] std::vector<std::byte> read(const Entry& entry, Sectors sectors) const {
         std::vector<std::byte> bytes =
-            entry.size < mini_cutoff_ ? read_mini_chain(entry) : read_chain(entry.first_sector);
+            sectors == Sectors::small ? read_mini_chain(entry) : read_chain(entry.first_sector);
         if (bytes.size() > entry.size) bytes.resize(entry.size);
         return bytes;
     }
 
   private:
-    static bool is_stream(const Entry& entry, std::u16string_view name) {
-        return entry.type == EntryType::stream && entry.size > 0 && entry.name == name;
-    }
-
     [[nodiscard]] std::size_t sector_count() const { return file_.size() / sector_size_ + 1; }
 
     // The header takes the place of the sector before sector 0.
@@ -114,13 +133,13 @@ class CompoundFile {
         if (entries_.empty()) return;
         for (const std::uint32_t number : chain_of(long_at(file_, 60), sector_table_))
             append_numbers(mini_table_, sector(number));
-        mini_stream_ = read_chain(entries_.front().first_sector);
+        mini_stream_ = read_chain(root().first_sector);
     }
 
     static Entry entry_of(ByteSpan bytes) {
         Entry entry;
-        const std::size_t name_bytes = std::min<std::size_t>(word_at(bytes, 64), 64);
-        for (std::size_t place = 0; place + 2 <= name_bytes; place += 2) {
+        constexpr std::size_t name_size = 64; // the length of the name is stored as well, but not reliably
+        for (std::size_t place = 0; place < name_size; place += 2) {
             const char16_t unit = word_at(bytes, place);
             if (unit == 0) break;
             entry.name.push_back(unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit);
@@ -134,21 +153,25 @@ class CompoundFile {
         return entry;
     }
 
-    // Workbooks that are embedded in this one have streams of the same names, in storages below the root.
-    [[nodiscard]] const Entry* find_in_root(std::u16string_view name) const {
+    [[nodiscard]] const Entry& root() const {
+        const auto found = std::ranges::find(entries_, EntryType::root, &Entry::type);
+        return found == entries_.end() ? entries_.front() : *found;
+    }
+
+    [[nodiscard]] std::vector<const Entry*> entries_of_root() const {
+        std::vector<const Entry*> found;
         std::vector<bool> seen(entries_.size());
-        std::vector<std::uint32_t> open = {entries_.front().child};
+        std::vector<std::uint32_t> open = {root().child};
         while (!open.empty()) {
             const std::uint32_t number = open.back();
             open.pop_back();
             if (number >= entries_.size() || seen[number]) continue;
             seen[number] = true;
-            const Entry& entry = entries_[number];
-            if (is_stream(entry, name)) return &entry;
-            open.push_back(entry.left);
-            open.push_back(entry.right);
+            found.push_back(&entries_[number]);
+            open.push_back(entries_[number].left);
+            open.push_back(entries_[number].right);
         }
-        return nullptr;
+        return found;
     }
 
     [[nodiscard]] std::vector<std::byte> read_chain(std::uint32_t first) const {
@@ -172,7 +195,7 @@ class CompoundFile {
     std::vector<std::uint32_t> sector_table_; // the sector that follows each sector
     std::vector<std::uint32_t> mini_table_;
     std::vector<std::byte> mini_stream_;
-    std::vector<Entry> entries_; // the root first
+    std::vector<Entry> entries_; // the root should be the first
 };
 
 bool has_signature(ByteSpan file) {
@@ -187,13 +210,18 @@ std::expected<std::vector<std::byte>, CompoundFailure> workbook_stream(ByteSpan 
     if (!has_signature(file)) return std::unexpected(CompoundFailure::not_compound);
     CompoundFile compound(file);
     if (!compound.open()) return std::unexpected(CompoundFailure::damaged);
-    for (const std::u16string_view name : {u"workbook", u"book"}) {
-        if (const Entry* entry = compound.find(name)) {
-            std::vector<std::byte> bytes = compound.read(*entry);
-            if (!bytes.empty()) return bytes;
+    const std::vector<const Entry*> candidates = compound.named({u"workbook", u"book"});
+    for (const Entry* entry : candidates) {
+        const auto usual = compound.sectors_of(*entry);
+        const auto other =
+            usual == CompoundFile::Sectors::small ? CompoundFile::Sectors::large : CompoundFile::Sectors::small;
+        for (const auto sectors : {usual, other}) {
+            std::vector<std::byte> bytes = compound.read(*entry, sectors);
+            if (is_bof(word_at(bytes, 0))) return bytes;
         }
     }
-    if (compound.find(u"encryptedpackage") != nullptr) return std::unexpected(CompoundFailure::encrypted_package);
+    if (!candidates.empty()) return std::unexpected(CompoundFailure::damaged);
+    if (!compound.named({u"encryptedpackage"}).empty()) return std::unexpected(CompoundFailure::encrypted_package);
     return std::unexpected(CompoundFailure::no_workbook);
 }
 

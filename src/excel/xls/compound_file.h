@@ -10,9 +10,9 @@ namespace tavelo {
 
 enum class CompoundFailure : std::uint8_t { not_compound, no_workbook, encrypted_package, damaged };
 
-// The stream "Workbook", or else "Book", of a compound file. Excel is lenient, so this is too: the stream is also found
-// when the tree of the directory is broken, and a chain of sectors that is cut off, or that comes back to a sector,
-// gives what is before that. Never larger than the file.
+// The stream "Workbook", or else "Book", of a compound file; it begins with a BOF record. Excel is lenient, so this is
+// too: the stream is also found when the tree of the directory is broken, and a chain of sectors that is cut off, or
+// that comes back to a sector, gives what is before that. Never larger than the file.
 [[nodiscard]] std::expected<std::vector<std::byte>, CompoundFailure> workbook_stream(ByteSpan file);
 
 } // namespace tavelo

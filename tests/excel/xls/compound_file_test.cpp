@@ -181,6 +181,35 @@ TEST(XlsContainer, een_ingesloten_werkmap_is_niet_de_werkmap_zelf) {
     EXPECT_EQ(shown(Container(entries).bytes()), (Shown{"A1=1"}));
 }
 
+TEST(XlsContainer, een_oude_werkmap_gaat_voor_een_nieuwe_die_erin_ingesloten_is) {
+    const std::vector<Entry> entries = {root_entry(3),
+                                        {.name = u"MBD0001", .type = storage, .child = 2},
+                                        {.name = u"Workbook", .content = with_value(99)},
+                                        {.name = u"Book", .content = with_value(1), .left = 1}};
+    EXPECT_EQ(shown(Container(entries).bytes()), (Shown{"A1=1"}));
+}
+
+TEST(XlsContainer, een_werkmap_die_er_geen_is_maakt_plaats_voor_de_volgende) {
+    const std::vector<Entry> entries = {root_entry(),
+                                        {.name = u"Workbook", .content = Bytes().zeros(100), .right = 2},
+                                        {.name = u"Book", .content = with_value(1)}};
+    EXPECT_EQ(shown(Container(entries).bytes()), (Shown{"A1=1"}));
+    EXPECT_EQ(failure(Container({root_entry(), {.name = u"Workbook", .content = Bytes().zeros(100)}}).bytes()),
+              "beschadigd");
+}
+
+TEST(XlsContainer, een_verkeerde_soort_lengte_of_plaats_in_de_inhoudsopgave_is_geen_bezwaar) {
+    constexpr std::size_t root_place = 1024;
+    constexpr std::size_t workbook_place = root_place + 128;
+    const Bytes whole = container_of(with_value(1));
+    EXPECT_EQ(shown(Bytes(whole).put_u8(workbook_place + 66, 0)), (Shown{"A1=1"})); // its type
+    EXPECT_EQ(shown(Bytes(whole).put_u8(root_place + 66, 0)), (Shown{"A1=1"}));
+    EXPECT_EQ(shown(Bytes(whole).put_u8(workbook_place + 64, 0)), (Shown{"A1=1"}));     // the length of its name
+    EXPECT_EQ(shown(Bytes(whole).put_u32(workbook_place + 120, 512)), (Shown{"A1=1"})); // small, yet in large sectors
+    const std::vector<Entry> root_behind = {{.name = u"Workbook", .content = with_value(1)}, root_entry(0)};
+    EXPECT_EQ(shown(Container(root_behind).bytes()), (Shown{"A1=1"}));
+}
+
 TEST(XlsContainer, een_gebroken_boom_van_de_inhoudsopgave_is_geen_bezwaar) {
     for (const std::uint32_t child : {0U, 7U, nothing}) {
         const std::vector<Entry> entries = {root_entry(child), {.name = u"Workbook", .content = with_value(1)}};

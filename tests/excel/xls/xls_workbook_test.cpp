@@ -125,6 +125,13 @@ TEST(XlsWerkmap, oude_teksten_volgen_hun_codetabel) {
     EXPECT_EQ(under_code_page(4711, "\xE9"), (Shown{"A1=é"})); // unknown: as 1252
 }
 
+TEST(XlsWerkmap, oude_japanse_teksten_hebben_een_of_twee_bytes_per_teken) {
+    EXPECT_EQ(under_code_page(932, "\x94\x6E Paard \xB3\xCF"), (Shown{"A1=馬 Paard ｳﾏ"}));
+    EXPECT_EQ(under_code_page(932, "\x83\x5C\xFB\xFC"), (Shown{"A1=ソ髙"})); // the second byte can be a backslash
+    EXPECT_EQ(under_code_page(932, "\x81\xAD"), (Shown{"A1=\uFFFD"}));       // no character there
+    EXPECT_EQ(under_code_page(932, "\x94"), (Shown{"A1=\xC2\x94"}));         // cut off
+}
+
 TEST(XlsWerkmap, het_gebruikte_bereik_omvat_ook_lege_cellen_met_opmaak) {
     Bytes cells = blank(2, 3).add(number(4, 1, 1));
     cells.record(0x00BE, Bytes().u16(5).u16(2).u16(0).u16(0).u16(0).u16(4));

@@ -2,7 +2,7 @@
 
 #include "platform/qt_text.h"
 #include "ui/settings/frmInstellingen_besturing.h"
-#include "ui/settings/proef_bediening.h"
+#include "ui/settings/instellingen_opstelling.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -29,16 +29,6 @@
 
 namespace tavelo {
 namespace {
-
-class ProefKleuren final : public ColourDialog {
-  public:
-    [[nodiscard]] std::optional<std::int32_t> ask(std::int32_t preselected) override {
-        gevraagd.push_back(preselected);
-        return antwoord;
-    }
-    std::vector<std::int32_t> gevraagd;
-    std::optional<std::int32_t> antwoord;
-};
 
 class FrmInstellingen : public testing::Test {
   protected:
@@ -67,8 +57,8 @@ class FrmInstellingen : public testing::Test {
     }
     Instellingen& instellingen() { return proef.programma.instellingen; }
 
-    ProefBediening proef;
-    ProefKleuren kleuren;
+    test::InstellingenOpstelling proef;
+    test::FakeColourDialog kleuren;
     int vertoond = 0;
 
   private:
@@ -282,16 +272,16 @@ TEST_F(FrmInstellingen, een_stap_stelt_beide_vensters_opnieuw_samen) {
 TEST_F(FrmInstellingen, een_bevestigde_kleur_wordt_het_staal_en_werkt_meteen) {
     instellingen().forecolor = 0x0000C0;
     open();
-    kleuren.antwoord = 0x332211;
+    kleuren.answer = 0x332211;
     klik("btnKleur_1");
-    EXPECT_EQ(kleuren.gevraagd, std::vector<std::int32_t>{0x0000C0});
+    EXPECT_EQ(kleuren.preselected, std::vector<std::int32_t>{0x0000C0});
     EXPECT_EQ(instellingen().forecolor, 0x332211);
     EXPECT_EQ(vind("btnKleur_1").palette().color(QPalette::Button), QColor(0x11, 0x22, 0x33));
     EXPECT_EQ(vertoond, 1);
     const QImage beeld = vind("btnKleur_1").grab().toImage();
     EXPECT_EQ(beeld.pixelColor(beeld.rect().center()), QColor(0x11, 0x22, 0x33));
     klik("btnKleur_1");
-    EXPECT_EQ(kleuren.gevraagd.back(), 0x332211);
+    EXPECT_EQ(kleuren.preselected.back(), 0x332211);
 }
 
 TEST_F(FrmInstellingen, een_geannuleerde_kleur_verandert_niets) {
@@ -299,7 +289,7 @@ TEST_F(FrmInstellingen, een_geannuleerde_kleur_verandert_niets) {
     const Instellingen begin = instellingen();
     open();
     klik("btnKleur_0");
-    EXPECT_EQ(kleuren.gevraagd.size(), 1U);
+    EXPECT_EQ(kleuren.preselected.size(), 1U);
     EXPECT_EQ(instellingen(), begin);
     EXPECT_EQ(vertoond, 0);
 }
@@ -307,7 +297,7 @@ TEST_F(FrmInstellingen, een_geannuleerde_kleur_verandert_niets) {
 TEST_F(FrmInstellingen, elke_kleurknop_bewerkt_zijn_eigen_kleur) {
     open();
     for (std::int32_t index = 0; index < 4; ++index) {
-        kleuren.antwoord = 0x40 + index;
+        kleuren.answer = 0x40 + index;
         klik(("btnKleur_" + std::to_string(index)).c_str());
     }
     EXPECT_EQ(instellingen().backcolor, 0x40);
@@ -411,7 +401,7 @@ TEST_F(FrmInstellingen, enter_is_ok_ook_vanuit_een_lijst_of_kleurknop) {
         EXPECT_EQ(instellingen().showrubric, 1) << naam;
         EXPECT_EQ(venster.result(), QDialog::Accepted) << naam;
     }
-    EXPECT_TRUE(kleuren.gevraagd.empty());
+    EXPECT_TRUE(kleuren.preselected.empty());
 }
 
 TEST_F(FrmInstellingen, esc_annuleren_en_het_sluitvak_zetten_terug) {

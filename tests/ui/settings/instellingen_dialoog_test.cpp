@@ -1,6 +1,7 @@
 #include "ui/settings/instellingen_dialoog.h"
 
-#include "ui/settings/proef_bediening.h"
+#include "fakes/grid_events.h"
+#include "ui/settings/instellingen_opstelling.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +16,9 @@ const std::vector<std::string> lettertypen = {"Proefletter", "Andere letter"};
 
 Getoond& besturing(DialoogInhoud& inhoud, std::string_view naam) { return inhoud[besturing_index(naam)]; }
 
-DialoogInhoud geladen(const ProefBediening& proef) { return inhoud_van(proef.programma.instellingen, lettertypen); }
+DialoogInhoud geladen(const test::InstellingenOpstelling& proef) {
+    return inhoud_van(proef.programma.instellingen, lettertypen);
+}
 
 // One change of one control, as the window does it.
 void wijzig(InstellingenDialoog& dialoog, DialoogInhoud& inhoud, std::string_view naam, const Getoond& waarde) {
@@ -100,7 +103,7 @@ TEST(InstellingenDialoog, de_lijst_heeft_tweeenvijftig_letters) {
 }
 
 TEST(InstellingenDialoog, laden_toont_wat_er_ingesteld_is) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     proef.programma.instellingen.backcolor = 0x123456;
     proef.programma.instellingen.textsize = 250;
     proef.programma.instellingen.alignment = 2;
@@ -117,7 +120,7 @@ TEST(InstellingenDialoog, laden_toont_wat_er_ingesteld_is) {
 }
 
 TEST(InstellingenDialoog, wat_een_besturing_niet_kan_tonen_toont_niets) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     proef.programma.instellingen = vreemde_instellingen();
     DialoogInhoud inhoud = geladen(proef);
     for (const char* naam :
@@ -129,7 +132,7 @@ TEST(InstellingenDialoog, wat_een_besturing_niet_kan_tonen_toont_niets) {
 }
 
 TEST(InstellingenDialoog, de_grenzen_van_de_schuifbalk_horen_erbij) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     const auto balk_bij = [&](std::int16_t grootte) {
         proef.programma.instellingen.textsize = grootte;
         DialoogInhoud inhoud = geladen(proef);
@@ -143,8 +146,8 @@ TEST(InstellingenDialoog, de_grenzen_van_de_schuifbalk_horen_erbij) {
 
 TEST(InstellingenDialoog, ok_zonder_wijziging_laat_elke_instelling_zoals_zij_was) {
     for (const Instellingen& begin :
-         {Instellingen(), ProefBediening().programma.instellingen, vreemde_instellingen()}) {
-        ProefBediening proef;
+         {Instellingen(), test::InstellingenOpstelling().programma.instellingen, vreemde_instellingen()}) {
+        test::InstellingenOpstelling proef;
         proef.programma.instellingen = begin;
         InstellingenDialoog dialoog(proef.bediening);
         (void)geladen(proef);
@@ -155,7 +158,7 @@ TEST(InstellingenDialoog, ok_zonder_wijziging_laat_elke_instelling_zoals_zij_was
 }
 
 TEST(InstellingenDialoog, een_wijziging_elders_laat_staan_wat_niet_getoond_wordt_en_zet_een_vreemde_grootte_op_100) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     proef.programma.instellingen = vreemde_instellingen();
     InstellingenDialoog dialoog(proef.bediening);
     DialoogInhoud inhoud = geladen(proef);
@@ -213,7 +216,7 @@ TEST(InstellingenDialoog, wat_getoond_kan_worden_komt_onveranderd_terug) {
 }
 
 TEST(InstellingenDialoog, schuifbalk_op_400_en_annuleren_laat_grootte_en_beeld_zoals_ze_waren) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     proef.programma.instellingen.textsize = 120;
     proef.programma.deelnemer_open = true;
     toon_overal(proef.bediening);
@@ -234,7 +237,7 @@ TEST(InstellingenDialoog, schuifbalk_op_400_en_annuleren_laat_grootte_en_beeld_z
 }
 
 TEST(InstellingenDialoog, annuleren_zet_ook_waarden_terug_die_geen_besturing_toont) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     proef.programma.instellingen = vreemde_instellingen();
     InstellingenDialoog dialoog(proef.bediening);
     DialoogInhoud inhoud;
@@ -260,7 +263,7 @@ TEST(InstellingenDialoog, annuleren_zet_ook_waarden_terug_die_geen_besturing_too
 }
 
 TEST(InstellingenDialoog, de_laatste_map_hoort_niet_bij_de_kopie) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     InstellingenDialoog dialoog(proef.bediening);
     proef.programma.instellingen.lastfolder = "D:\\Elders\\";
     dialoog.sluit();
@@ -268,7 +271,7 @@ TEST(InstellingenDialoog, de_laatste_map_hoort_niet_bij_de_kopie) {
 }
 
 TEST(InstellingenDialoog, ok_houdt_de_wijzigingen) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     InstellingenDialoog dialoog(proef.bediening);
     DialoogInhoud inhoud = geladen(proef);
     wijzig(dialoog, inhoud, "CmbFontName", "Andere letter");
@@ -280,7 +283,7 @@ TEST(InstellingenDialoog, ok_houdt_de_wijzigingen) {
 }
 
 TEST(InstellingenDialoog, elke_wijziging_stelt_het_voorbeeld_opnieuw_samen_en_het_deelnemersvenster_als_het_open_is) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     InstellingenDialoog dialoog(proef.bediening);
     DialoogInhoud inhoud = geladen(proef);
 
@@ -300,7 +303,7 @@ TEST(InstellingenDialoog, elke_wijziging_stelt_het_voorbeeld_opnieuw_samen_en_he
 }
 
 TEST(InstellingenDialoog, een_andere_kolom_vult_het_rooster_en_laat_huidige_en_bovenste_rij_staan) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     proef.open_werkblad();
     Grid& rooster = proef.programma.grdRooster;
     rooster.highlight_row(5);
@@ -320,7 +323,7 @@ TEST(InstellingenDialoog, een_andere_kolom_vult_het_rooster_en_laat_huidige_en_b
 }
 
 TEST(InstellingenDialoog, een_gewiste_letter_maakt_de_kolom_leeg_zonder_bericht) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     proef.open_werkblad();
     proef.programma.instellingen.col_rider_name = "B";
     InstellingenDialoog dialoog(proef.bediening);
@@ -328,11 +331,11 @@ TEST(InstellingenDialoog, een_gewiste_letter_maakt_de_kolom_leeg_zonder_bericht)
     wijzig(dialoog, inhoud, "cmbExcel_2", "");
     EXPECT_EQ(proef.programma.instellingen.col_rider_name, "");
     EXPECT_EQ(proef.programma.grdRooster.text(1, kolom_naam), "");
-    EXPECT_EQ(proef.berichten.getoond, std::vector<std::string>());
+    EXPECT_EQ(proef.berichten.shown, std::vector<std::string>());
 }
 
 TEST(InstellingenDialoog, na_annuleren_houdt_het_rooster_de_kolommen_van_de_laatste_wijziging) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     proef.open_werkblad();
     proef.programma.instellingen.col_rider_name = "A";
     InstellingenDialoog dialoog(proef.bediening);
@@ -344,7 +347,7 @@ TEST(InstellingenDialoog, na_annuleren_houdt_het_rooster_de_kolommen_van_de_laat
 }
 
 TEST(InstellingenDialoog, de_letters_werken_ook_op_wat_de_monitor_van_een_werkblad_toont) {
-    ProefBediening proef;
+    test::InstellingenOpstelling proef;
     proef.open_werkblad();
     proef.programma.huidige_regel = 2;
     InstellingenDialoog dialoog(proef.bediening);
@@ -361,7 +364,7 @@ TEST(InstellingenDialoog, alleen_een_open_rooster_van_het_soort_xls_volgt_de_let
     };
     for (const Geval& geval : {Geval{"plan.xlsx", "xlsx"}, Geval{"plan.rst", "rst"}, Geval{"plan.XLS", "XLS"},
                                Geval{"plan.txt", ""}, Geval{"", "xls"}}) {
-        ProefBediening proef;
+        test::InstellingenOpstelling proef;
         proef.open_werkblad();
         proef.programma.rooster_bestand = geval.bestand;
         proef.programma.rooster_extensie = geval.extensie;
@@ -374,24 +377,15 @@ TEST(InstellingenDialoog, alleen_een_open_rooster_van_het_soort_xls_volgt_de_let
 }
 
 TEST(InstellingenDialoog, de_weergave_van_het_rooster_hoort_een_keer_van_een_nieuwe_vulling) {
-    class Luisteraar final : public GridListener {
-      public:
-        void cell_changed(int, int) override { ++cellen; }
-        void row_inserted(int) override { ++cellen; }
-        void row_removed(int) override { ++cellen; }
-        void current_changed() override {}
-        void grid_reset() override { ++vullingen; }
-        int cellen = 0;
-        int vullingen = 0;
-    } luisteraar;
-    ProefBediening proef;
+    test::GridEvents luisteraar;
+    test::InstellingenOpstelling proef;
     proef.open_werkblad();
     proef.programma.grdRooster.set_listener(&luisteraar);
     InstellingenDialoog dialoog(proef.bediening);
     DialoogInhoud inhoud = geladen(proef);
     wijzig(dialoog, inhoud, "cmbExcel_2", "B");
-    EXPECT_EQ(luisteraar.vullingen, 1);
-    EXPECT_EQ(luisteraar.cellen, 0);
+    EXPECT_EQ(luisteraar.resets, 1);
+    EXPECT_TRUE(luisteraar.cells.empty() && luisteraar.inserted.empty() && luisteraar.removed.empty());
 }
 
 } // namespace

@@ -42,9 +42,10 @@ std::string DisplayedTexts::of(const Cell& cell) {
 
 const NumberFormat& DisplayedTexts::format_of(const Cell& cell) {
     const auto codes = workbook_.formats();
-    if (formats_.size() <= cell.format) formats_.resize(std::size_t{cell.format} + 1);
+    if (cell.format >= codes.size()) return general_;
+    if (formats_.size() <= cell.format) formats_.resize(codes.size());
     auto& format = formats_[cell.format];
-    if (!format) format.emplace(cell.format < codes.size() ? std::string_view(codes[cell.format]) : std::string_view());
+    if (!format) format.emplace(codes[cell.format]);
     return *format;
 }
 

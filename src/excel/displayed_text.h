@@ -26,6 +26,7 @@ class DisplayedTexts {
     const Workbook& workbook_;
     const Locale& locale_;
     std::vector<std::optional<NumberFormat>> formats_;
+    NumberFormat general_{""};
 };
 
 } // namespace tavelo

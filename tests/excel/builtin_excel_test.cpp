@@ -2,6 +2,7 @@
 
 #include "excel/codeExcel.h"
 #include "excel/xlsx/xlsx_maker.h"
+#include "fakes/seams.h"
 #include "schedule/record/kolommen.h"
 
 #include <gtest/gtest.h>
@@ -14,21 +15,11 @@ namespace {
 
 const std::string startlijst = TAVELO_TEST_DATA "/excel/startlijst.xlsx";
 
-struct Messages : MessageBox {
-    std::vector<std::string> shown;
-    void show(std::string_view text) override { shown.emplace_back(text); }
-};
-
-struct NoPointer : Pointer {
-    void busy() override {}
-    void normal() override {}
-};
-
 struct BuiltinExcel : testing::Test {
     std::unique_ptr<ExcelApplication> excel = builtin_excel(locale_named("nl-NL"));
     Grid grid;
-    Messages messages;
-    NoPointer pointer;
+    test::FakeMessages messages;
+    test::FakePointer pointer;
 
     bool lees(const std::string& file, int blad = 1) { return lees_excel(file, blad, grid, *excel, messages, pointer); }
     std::vector<std::string> row(int index) const {

@@ -1,5 +1,6 @@
 #include "excel/codeExcel.h"
 #include "excel/fake_excel.h"
+#include "fakes/seams.h"
 
 #include <gtest/gtest.h>
 
@@ -9,21 +10,6 @@ namespace {
 using test::FakeExcel;
 using test::sheet_of;
 using Texts = std::vector<std::vector<std::string>>;
-
-struct Messages : MessageBox {
-    std::vector<std::string> shown;
-    void show(std::string_view text) override { shown.emplace_back(text); }
-};
-
-struct CountingPointer : Pointer {
-    int switched_on = 0;
-    int still_on = 0;
-    void busy() override {
-        ++switched_on;
-        ++still_on;
-    }
-    void normal() override { --still_on; }
-};
 
 struct Resets : GridListener {
     int resets = 0;
@@ -38,8 +24,8 @@ struct Resets : GridListener {
 struct LeesExcel : testing::Test {
     FakeExcel excel;
     Grid grid;
-    Messages messages;
-    CountingPointer pointer;
+    test::FakeMessages messages;
+    test::FakePointer pointer;
 
     LeesExcel() {
         grid.set_rows(4);
@@ -64,8 +50,8 @@ struct LeesExcel : testing::Test {
     }
     void expect_everything_restored() const {
         EXPECT_TRUE(grid.redraw());
-        EXPECT_EQ(pointer.switched_on, 1);
-        EXPECT_EQ(pointer.still_on, 0);
+        EXPECT_EQ(pointer.times_busy, 1);
+        EXPECT_EQ(pointer.depth, 0);
         EXPECT_EQ(excel.living_objects, 0);
     }
 };
@@ -111,7 +97,7 @@ TEST_F(LeesExcel, een_andere_extensie_maakt_alleen_leeg) {
     EXPECT_TRUE(excel.calls.empty());
     EXPECT_TRUE(messages.shown.empty());
     EXPECT_TRUE(grid.redraw());
-    EXPECT_EQ(pointer.still_on, 0);
+    EXPECT_EQ(pointer.depth, 0);
 }
 
 TEST_F(LeesExcel, een_leeg_blad_geeft_een_grid_zonder_rijen_en_kolommen) {
@@ -180,7 +166,7 @@ TEST_F(LeesExcel, wat_niet_opengaat_geeft_een_melding_en_een_leeg_grid) {
         EXPECT_EQ(texts(), Texts{}) << member;
         EXPECT_EQ(excel.living_objects, 0) << member;
         EXPECT_TRUE(grid.redraw()) << member;
-        EXPECT_EQ(pointer.still_on, 0) << member;
+        EXPECT_EQ(pointer.depth, 0) << member;
     }
     excel.failing_member.clear(); // the next file opens as usual
     EXPECT_FALSE(lees());
@@ -215,14 +201,14 @@ TEST_F(LeesExcel, elk_onderdeel_kan_mislukken_zonder_melding_en_de_werkmap_gaat_
         FakeExcel failing;
         failing.sheets = excel.sheets;
         failing.failing_member = failure.member;
-        CountingPointer hourglass;
+        test::FakePointer hourglass;
         EXPECT_EQ(lees_excel("zondag.xlsx", 1, grid, failing, messages, hourglass), failure.result);
         EXPECT_EQ(texts(), failure.texts);
         EXPECT_EQ(failing.calls["Close"], failure.close_calls);
         EXPECT_EQ(failing.living_objects, 0);
         EXPECT_TRUE(grid.redraw());
-        EXPECT_EQ(hourglass.switched_on, 1);
-        EXPECT_EQ(hourglass.still_on, 0);
+        EXPECT_EQ(hourglass.times_busy, 1);
+        EXPECT_EQ(hourglass.depth, 0);
     }
     EXPECT_TRUE(messages.shown.empty());
 }

@@ -1,5 +1,6 @@
 #include "excel/codeExcel.h"
 #include "excel/fake_excel.h"
+#include "fakes/seams.h"
 #include "schedule/record/kolommen.h"
 
 #include <gtest/gtest.h>
@@ -11,21 +12,6 @@ using Texts = std::vector<std::vector<std::string>>;
 
 constexpr const char* vraag_om_kolommen =
     "Geef bij 'Bestand | Instellingen' op in welke Excel kolommen velden 'nr--tijd' en 'naam', etc. staan.";
-
-struct Messages : MessageBox {
-    std::vector<std::string> shown;
-    void show(std::string_view text) override { shown.emplace_back(text); }
-};
-
-struct CountingPointer : Pointer {
-    int still_on = 0;
-    int switched_on = 0;
-    void busy() override {
-        ++still_on;
-        ++switched_on;
-    }
-    void normal() override { --still_on; }
-};
 
 void fill(Grid& grid, const Texts& texts) {
     grid.set_columns(texts.empty() ? 0 : static_cast<int>(texts.front().size()));
@@ -70,8 +56,8 @@ TEST(ExcelKolom, geen_letter_of_een_kolom_die_er_niet_is_geeft_niets) {
 struct VulXlsRooster : testing::Test {
     Programma programma;
     Grid& doel = programma.grdRooster;
-    Messages messages;
-    CountingPointer pointer;
+    test::FakeMessages messages;
+    test::FakePointer pointer;
 
     VulXlsRooster() {
         programma.instellingen.col_startnumber = "A";
@@ -102,8 +88,8 @@ TEST_F(VulXlsRooster, elke_rij_van_het_blad_wordt_een_rij_ook_de_kopregel) {
               (std::vector<std::string>{"1", "", "007", "", "Zoë", "", "Amber", "Apollo", "RV Oost", "", ""}));
     EXPECT_TRUE(messages.shown.empty());
     EXPECT_TRUE(doel.redraw());
-    EXPECT_EQ(pointer.switched_on, 1);
-    EXPECT_EQ(pointer.still_on, 0);
+    EXPECT_EQ(pointer.times_busy, 1);
+    EXPECT_EQ(pointer.depth, 0);
 }
 
 TEST_F(VulXlsRooster, veldnamen_in_de_eerste_rij_maken_geen_verschil) {
@@ -134,7 +120,7 @@ TEST_F(VulXlsRooster, zonder_startnummers_en_namen_komt_de_vraag_om_de_kolommen)
     vul();
     EXPECT_EQ(messages.shown, std::vector<std::string>{vraag_om_kolommen});
     EXPECT_EQ(doel.rows(), 3);
-    EXPECT_EQ(pointer.still_on, 0);
+    EXPECT_EQ(pointer.depth, 0);
 
     vul(Meldingen::zwijgen);
     EXPECT_EQ(messages.shown.size(), 1U);
@@ -186,7 +172,7 @@ TEST_F(VulXlsRooster, een_geopende_lijst_toont_titel_en_eerste_rij) {
     EXPECT_EQ(doel.column(), 1);
     EXPECT_EQ(programma.labels.lblRoosterOmschrijving, "zondag.klas");
     EXPECT_EQ(programma.bijschrift, "Vendalo 3.5 Tavelo - zondag.klas");
-    EXPECT_EQ(pointer.still_on, 0);
+    EXPECT_EQ(pointer.depth, 0);
 }
 
 TEST_F(VulXlsRooster, wat_niet_opengaat_laat_een_lege_lijst_achter) {

@@ -48,13 +48,13 @@ std::expected<std::unique_ptr<Package>, OpenFailure> Package::open(std::vector<s
 
 bool Package::has(std::string_view part) const { return index_by_key_.contains(part_key(part)); }
 
-std::expected<void, OpenFailure> Package::read(std::string_view part, const Sink& sink) const {
+std::expected<void, OpenFailure> Package::read(std::string_view part, std::uint64_t limit, const Sink& sink) const {
     const auto found = index_by_key_.find(part_key(part));
     if (found == index_by_key_.end()) return std::unexpected(OpenFailure::damaged);
 
     zip_stat_t claimed{};
     if (zip_stat_index(archive_.get(), found->second, 0, &claimed) == 0 && (claimed.valid & ZIP_STAT_SIZE) != 0 &&
-        claimed.size > largest_part)
+        claimed.size > limit)
         return std::unexpected(OpenFailure::too_large);
 
     const std::unique_ptr<zip_file_t, CloseMember> member(zip_fopen_index(archive_.get(), found->second, 0));
@@ -71,7 +71,7 @@ std::expected<void, OpenFailure> Package::read(std::string_view part, const Sink
         if (count < 0) return std::unexpected(OpenFailure::damaged);
         if (count == 0) return {};
         unpacked += static_cast<std::uint64_t>(count);
-        if (unpacked > largest_part) return std::unexpected(OpenFailure::too_large);
+        if (unpacked > limit) return std::unexpected(OpenFailure::too_large);
         if (!sink(std::span(chunk).first(static_cast<std::size_t>(count)))) return {};
     }
 }

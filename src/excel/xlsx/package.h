@@ -19,9 +19,13 @@ struct zip;
 
 namespace tavelo {
 
-// A part that unpacks to more than this many bytes is refused as too large. A start list of 4,000 rows takes 2 MB, and
-// the largest sheets that people keep in Excel some hundred; a zip bomb unpacks a thousandfold and is stopped here.
+// A sheet or the shared strings may unpack to this many bytes; more is refused as too large. A start list of 4,000 rows
+// takes 2 MB, and the largest sheets that people keep in Excel some hundred; a zip bomb unpacks a thousandfold and is
+// stopped here.
 inline constexpr std::uint64_t largest_part = 256U * 1024 * 1024;
+// The same for the parts that list things: sheets, styles, relationships. What they list takes more memory than its
+// text.
+inline constexpr std::uint64_t largest_list_part = 32U * 1024 * 1024;
 
 class Package {
   public:
@@ -35,7 +39,8 @@ class Package {
     // Unpacks `part` into `sink`. damaged when the part is missing or cannot be unpacked, too_large beyond
     // largest_part, password for a part with zip encryption. A sink that wants no more ends the reading without a
     // failure.
-    [[nodiscard]] std::expected<void, OpenFailure> read(std::string_view part, const Sink& sink) const;
+    [[nodiscard]] std::expected<void, OpenFailure> read(std::string_view part, std::uint64_t limit,
+                                                        const Sink& sink) const;
 
   private:
     struct CloseZip {

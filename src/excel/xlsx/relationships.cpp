@@ -39,7 +39,8 @@ std::expected<Relationships, OpenFailure> Relationships::of(const Package& packa
     const std::string rels = relationships_of(part);
     if (!package.has(rels)) return found;
     RelationshipsHandler handler(part, found.all_);
-    if (const auto read = read_xml(package, rels, handler); !read) return std::unexpected(read.error());
+    if (const auto read = read_xml(package, rels, largest_list_part, handler); !read)
+        return std::unexpected(read.error());
     for (std::size_t i = 0; i < found.all_.size(); ++i)
         found.index_by_id_.try_emplace(found.all_[i].id, i);
     return found;

@@ -3,6 +3,7 @@
 #include "excel/book/column_width.h"
 #include "excel/xlsx/cell_text.h"
 #include "excel/xlsx/iso_date.h"
+#include "excel/xlsx/package.h"
 #include "excel/xlsx/xml_reader.h"
 
 #include <algorithm>
@@ -355,7 +356,7 @@ std::optional<CellPlace> parse_cell_reference(std::string_view reference) {
 std::expected<Sheet, OpenFailure> read_sheet_part(const Package& package, std::string_view part,
                                                   const SheetContext& context) {
     SheetHandler handler(context);
-    if (const auto read = read_xml(package, part, handler); !read) return std::unexpected(read.error());
+    if (const auto read = read_xml(package, part, largest_part, handler); !read) return std::unexpected(read.error());
     return handler.take_sheet();
 }
 

@@ -3,6 +3,7 @@
 #include "excel/book/column_width.h"
 #include "excel/text/number_format.h"
 #include "excel/xlsx/cell_text.h"
+#include "excel/xlsx/package.h"
 #include "excel/xlsx/xml_reader.h"
 
 #include <optional>
@@ -92,7 +93,8 @@ class StylesHandler : public XmlHandler {
 
 std::expected<Styles, OpenFailure> read_styles(const Package& package, std::string_view part) {
     StylesHandler handler;
-    if (const auto read = read_xml(package, part, handler); !read) return std::unexpected(read.error());
+    if (const auto read = read_xml(package, part, largest_list_part, handler); !read)
+        return std::unexpected(read.error());
     return handler.styles();
 }
 

@@ -94,7 +94,7 @@ class XlsxWorkbook : public Workbook {
         if (main == nullptr) return std::unexpected(OpenFailure::not_a_workbook);
 
         WorkbookPartHandler book;
-        const auto read = read_xml(*package_, main->target, book);
+        const auto read = read_xml(*package_, main->target, largest_list_part, book);
         if (!book.is_workbook() && read) return std::unexpected(OpenFailure::not_a_workbook);
         if (!read) return read;
         if (book.sheets().empty()) return std::unexpected(OpenFailure::damaged);
@@ -143,7 +143,7 @@ class XlsxWorkbook : public Workbook {
     void read_strings() {
         if (strings_part_.empty()) return;
         SharedStringsHandler handler(texts_);
-        if (const auto read = read_xml(*package_, strings_part_, handler); !read) {
+        if (const auto read = read_xml(*package_, strings_part_, largest_part, handler); !read) {
             strings_failure_ = read.error();
             texts_.clear();
         }

@@ -106,7 +106,8 @@ bool XmlAttributes::is_true(std::string_view name) const {
     return text && (*text == "1" || *text == "true");
 }
 
-std::expected<void, OpenFailure> read_xml(const Package& package, std::string_view part, XmlHandler& handler) {
+std::expected<void, OpenFailure> read_xml(const Package& package, std::string_view part, std::uint64_t limit,
+                                          XmlHandler& handler) {
     const std::unique_ptr<std::remove_pointer_t<XML_Parser>, FreeParser> parser(XML_ParserCreate(nullptr));
     if (!parser) return std::unexpected(OpenFailure::unreadable);
     Reading reading{parser.get(), handler};
@@ -117,7 +118,7 @@ std::expected<void, OpenFailure> read_xml(const Package& package, std::string_vi
 
     XML_Index fed = 0;
     bool well_formed = true;
-    const auto unpacked = package.read(part, [&](std::span<const char> chunk) {
+    const auto unpacked = package.read(part, limit, [&](std::span<const char> chunk) {
         well_formed = XML_Parse(parser.get(), chunk.data(), static_cast<int>(chunk.size()), XML_FALSE) == XML_STATUS_OK;
         fed += static_cast<XML_Index>(chunk.size());
         if (well_formed && fed - XML_GetCurrentByteIndex(parser.get()) > longest_tag) well_formed = false;

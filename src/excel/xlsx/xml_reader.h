@@ -5,6 +5,7 @@
 
 #include "excel/book/workbook.h"
 
+#include <cstdint>
 #include <expected>
 #include <optional>
 #include <string_view>
@@ -44,8 +45,9 @@ class XmlHandler {
 // damaged for what is not well-formed XML, and for a document type declaration: Excel never writes one, and it is the
 // way to make a small part expand without end. Also for nesting beyond 200 levels and for one tag of more than a
 // megabyte.
+// too_large for a part that unpacks to more than `limit` bytes.
 [[nodiscard]] std::expected<void, OpenFailure> read_xml(const Package& package, std::string_view part,
-                                                        XmlHandler& handler);
+                                                        std::uint64_t limit, XmlHandler& handler);
 
 // White space as XML knows it taken off both ends: space, tab, line end.
 [[nodiscard]] std::string_view trim_xml_space(std::string_view text);

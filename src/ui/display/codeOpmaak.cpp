@@ -80,7 +80,7 @@ double begin_van_regel(const Tekenvlak& vlak, double breedte, int uitlijning, co
     return marge;
 }
 
-// Height of the lines that are switched on. The band counts as two lines, though it is 2.2 high; a size, sex or age
+// Height of the lines that are switched on. The band counts as two lines, though it is 2.2 high; a colour, sex or age
 // reserves its line whether it is drawn or not. It is meant so.
 int benodigde_hoogte(const Instellingen& i, int rubriek_regel_hoogte, int regel_hoogte) {
     int hoogte = i.showrubric != 0 ? 2 * rubriek_regel_hoogte : 0;

@@ -59,9 +59,8 @@ void vraag_bestand(Bediening& bediening, int slot) {
         vul_slot(p, slot); // after a cancel the slot gets the current file, even that of the other slot: it is meant so
 }
 
-void laad_roosterbestand(Bediening& bediening, int slot) {
+void lees_roosterbestand(Bediening& bediening, int slot) {
     Programma& p = bediening.programma;
-    if (!bestandbestaat(p.rooster_bestand)) return; // it keeps its slot: a file on a share may come back
     const Omgeving& omgeving = bediening.omgeving;
     const auto bijschrift =
         lees_rooster(p.rooster_bestand, {p.grdRooster, p.schedule, p.labels, omgeving.berichten, omgeving.logboek});
@@ -71,7 +70,14 @@ void laad_roosterbestand(Bediening& bediening, int slot) {
     }
     p.bijschrift = *bijschrift;
     vul_rubriek_labels(p.schedule, p.labels);
-    vul_nr_tijd(p.grdRooster, p.schedule.huidige_rubriek, omgeving.berichten);
+}
+
+void laad_roosterbestand(Bediening& bediening, int slot) {
+    const Programma& p = bediening.programma;
+    // A file that is not there keeps its slot: on a share it may come back.
+    if (bestandbestaat(p.rooster_bestand)) lees_roosterbestand(bediening, slot);
+    // Also when nothing was read: the title over the times is no longer that of the last file.
+    vul_nr_tijd(bediening.programma.grdRooster, p.schedule.huidige_rubriek, bediening.omgeving.berichten);
 }
 
 // A workbook carries none of these details, and its own title goes with them: it is meant so.

@@ -178,7 +178,10 @@ bool dump_rooster(const DumpVraag& vraag, const TextMeasure& meter, ExcelApplica
         auto_import(
             bediening, [] {}, &getuige);
     }
-    if (vraag.nummer) zet_txtINR(bediening, *vraag.nummer);
+    if (vraag.nummer) {
+        zet_txtINR(bediening, *vraag.nummer);
+        toon_voorbeeld(bediening); // an empty number is no change of the box, but has its picture
+    }
 
     JsonWriter json(uit);
     json.object([&] {

@@ -1,6 +1,6 @@
 #include "json.h"
 
-#include "basis/number.h"
+#include "basis/text.h"
 
 #include <array>
 #include <charconv>
@@ -9,18 +9,16 @@ namespace tavelo {
 
 void JsonWriter::value(std::string_view text) {
     constexpr std::string_view hexadecimal = "0123456789abcdef";
-    begin_value();
-    out_ << '"';
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (c == '"' || c == '\\')
-            out_ << '\\' << c;
-        else if (byte < 0x20)
-            out_ << "\\u00" << hexadecimal[byte >> 4] << hexadecimal[byte & 15U];
+    std::string quoted = "\"";
+    for (const char32_t c : code_points(text)) { // the name of a file may hold bytes that are not UTF-8
+        if (c == U'"' || c == U'\\') quoted.push_back('\\');
+        if (c < 0x20)
+            quoted.append("\\u00").append({hexadecimal[c >> 4], hexadecimal[c & 15U]});
         else
-            out_ << c;
+            append_utf8(quoted, c);
     }
-    out_ << '"';
+    quoted.push_back('"');
+    plain(quoted);
 }
 
 void JsonWriter::value(double number) {

@@ -1,4 +1,4 @@
-// Writes one JSON value, piece by piece, as UTF-8.
+// Writes one JSON value, piece by piece, as UTF-8; a byte of a text that is not UTF-8 comes out as U+FFFD.
 #pragma once
 
 #include <concepts>

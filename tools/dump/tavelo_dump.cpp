@@ -40,15 +40,23 @@ std::optional<std::size_t> sheet_number(std::string_view text) {
     return number;
 }
 
+// False when the text is no size that an area can have.
+bool neem_maat(double& twips, std::string_view tekst) {
+    const std::optional<double> getal = number_in(tekst);
+    if (!getal || !to_int32(*getal) || *getal < 0) return false;
+    twips = *getal;
+    return true;
+}
+
 bool neem_optie(Vraag& vraag, std::string_view optie, std::string_view waarde) {
     if (optie == "--daarna") {
         vraag.rooster.daarna = waarde;
     } else if (optie == "--nummer") {
         vraag.rooster.nummer = waarde;
     } else if (optie == "--breedte") {
-        vraag.rooster.breedte = leading_number(waarde);
+        return neem_maat(vraag.rooster.breedte, waarde);
     } else if (optie == "--hoogte") {
-        vraag.rooster.hoogte = leading_number(waarde);
+        return neem_maat(vraag.rooster.hoogte, waarde);
     } else if (optie == "--land") {
         vraag.land = waarde;
     } else if (optie == "--maat") {

@@ -1,0 +1,74 @@
+#include "fakes/seams.h"
+#include "ui/display/tekenvlak.h"
+
+#include <gtest/gtest.h>
+
+namespace tavelo {
+namespace {
+
+TEST(Tekenvlak, een_gedrukte_tekst_staat_op_de_huidige_hoogte_en_schuift_die_een_regel_op) {
+    const test::FakeMeasure meter;
+    Tekenvlak vlak;
+    vlak.zet_punten(10);
+    vlak.druk(meter, 30, "eerste");
+    vlak.druk(meter, 40, "");
+    vlak.zet_punten(20);
+    vlak.druk(meter, 50, "derde");
+    const std::vector<GeplaatsteTekst> verwacht = {{30, 0, 10, "eerste"}, {40, 230, 10, ""}, {50, 460, 20, "derde"}};
+    EXPECT_EQ(vlak.regels(), verwacht);
+    EXPECT_EQ(vlak.huidige_y, 920);
+}
+
+TEST(Tekenvlak, wissen_haalt_de_teksten_weg_en_begint_bovenaan) {
+    const test::FakeMeasure meter;
+    Tekenvlak vlak;
+    vlak.zet_punten(10);
+    vlak.druk(meter, 30, "tekst");
+    vlak.wis();
+    EXPECT_TRUE(vlak.regels().empty());
+    EXPECT_EQ(vlak.huidige_y, 0);
+    EXPECT_EQ(vlak.punten(), 10);
+}
+
+TEST(Tekenvlak, dezelfde_tekst_op_dezelfde_plaats_bedekt_de_vorige) {
+    const test::FakeMeasure meter;
+    Tekenvlak vlak;
+    vlak.zet_punten(10);
+    vlak.druk(meter, 30, "tekst");
+    vlak.huidige_y = 0;
+    vlak.druk(meter, 30, "tekst");
+    EXPECT_EQ(vlak.regels().size(), 1U);
+    EXPECT_EQ(vlak.huidige_y, 230);
+    vlak.huidige_y = 0;
+    vlak.druk(meter, 31, "tekst");
+    EXPECT_EQ(vlak.regels().size(), 2U);
+}
+
+TEST(Tekenvlak, de_kleinste_letter_is_een_punt_en_maten_worden_niet_afgerond) {
+    Tekenvlak vlak;
+    for (const double te_klein : {0.0, -3.0, 0.99}) {
+        vlak.zet_punten(te_klein);
+        EXPECT_EQ(vlak.punten(), 1) << te_klein;
+    }
+    vlak.zet_punten(31.4375);
+    EXPECT_EQ(vlak.punten(), 31.4375);
+}
+
+TEST(Tekenvlak, het_meet_met_zijn_eigen_lettertype_en_maat) {
+    struct Meter final : TextMeasure {
+        [[nodiscard]] double width(std::string_view font, double points, std::string_view text) const override {
+            return font == "Verdana" ? points * static_cast<double>(text.size()) : 0;
+        }
+        [[nodiscard]] double height(std::string_view font, double points) const override {
+            return font == "Verdana" ? 2 * points : 0;
+        }
+    };
+    Tekenvlak vlak;
+    vlak.lettertype = "Verdana";
+    vlak.zet_punten(7);
+    EXPECT_EQ(vlak.tekstbreedte(Meter(), "vier"), 28);
+    EXPECT_EQ(vlak.teksthoogte(Meter()), 14);
+}
+
+} // namespace
+} // namespace tavelo

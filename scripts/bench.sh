@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 
 install_missing "${packages_run[@]}" "${packages_demo[@]}" "${packages_bench[@]}"
 cmake --preset release -DTAVELO_TESTS=OFF -DTAVELO_BENCH=ON
-cmake --build build/release --target bench tavelo
+cmake --build build/release --target bench tavelo tavelo-dump
 
 benches=("$@")
 [ "${#benches[@]}" -gt 0 ] || mapfile -t benches < <(basename --multiple --suffix=.cpp bench/bench_*.cpp)
@@ -16,3 +16,8 @@ for bench in "${benches[@]}"; do
     echo "== $bench"
     QT_QPA_PLATFORM=offscreen "build/release/bench/$bench" --benchmark_counters_tabular=true
 done
+
+if [ "$#" -eq 0 ]; then
+    echo "== excel.py"
+    bench/excel.py
+fi

@@ -20,7 +20,7 @@ packages_test=(
 )
 
 # Only on request: benchmarks (scripts/bench.sh), fuzzing (scripts/fuzz.sh; <expected> needs clang 16), the example workbook.
-packages_bench=(libbenchmark-dev)
+packages_bench=(libbenchmark-dev unzip python3-xlsxwriter python3-openpyxl python3-xlrd)
 packages_fuzz=(clang-16 libclang-rt-16-dev)
 packages_examples=(python3-xlsxwriter)
 

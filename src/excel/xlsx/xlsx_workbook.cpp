@@ -91,7 +91,8 @@ class XlsxWorkbook : public Workbook {
         const auto top = Relationships::of(*package_, "");
         if (!top) return std::unexpected(top.error());
         const Relationship* const main = top->with_type("officeDocument");
-        if (main == nullptr) return std::unexpected(OpenFailure::not_a_workbook);
+        // A binary workbook (.xlsb) is packed alike and written in another language.
+        if (main == nullptr || main->target.ends_with(".bin")) return std::unexpected(OpenFailure::not_a_workbook);
 
         WorkbookPartHandler book;
         const auto read = read_xml(*package_, main->target, largest_list_part, book);

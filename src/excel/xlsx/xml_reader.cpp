@@ -1,5 +1,6 @@
 #include "excel/xlsx/xml_reader.h"
 
+#include "basis/text.h"
 #include "excel/xlsx/package.h"
 
 #include <expat.h>
@@ -8,6 +9,7 @@
 #include <cmath>
 #include <memory>
 #include <span>
+#include <string>
 #include <type_traits>
 
 namespace tavelo {
@@ -68,6 +70,20 @@ void XMLCALL on_doctype(void* user_data, const XML_Char*, const XML_Char*, const
     reading_of(user_data).refuse();
 }
 
+// Encodings that expat does not have of its own. UTF-8, UTF-16 and Latin 1 it has.
+int XMLCALL on_unknown_encoding(void*, const XML_Char* name, XML_Encoding* encoding) {
+    const std::string lower = lower_case(name);
+    if (lower != "windows-1252" && lower != "cp1252") return XML_STATUS_ERROR;
+    for (int byte = 0; byte < 256; ++byte) {
+        const char one = static_cast<char>(static_cast<unsigned char>(byte));
+        encoding->map[byte] = static_cast<int>(code_points(from_windows_1252({&one, 1})).front());
+    }
+    encoding->data = nullptr;
+    encoding->convert = nullptr;
+    encoding->release = nullptr;
+    return XML_STATUS_OK;
+}
+
 struct FreeParser {
     void operator()(std::remove_pointer_t<XML_Parser>* parser) const { XML_ParserFree(parser); }
 };
@@ -114,6 +130,7 @@ std::expected<void, OpenFailure> read_xml(const Package& package, std::string_vi
     XML_SetUserData(parser.get(), &reading);
     XML_SetElementHandler(parser.get(), on_start, on_end);
     XML_SetCharacterDataHandler(parser.get(), on_text);
+    XML_SetUnknownEncodingHandler(parser.get(), on_unknown_encoding, nullptr);
     XML_SetStartDoctypeDeclHandler(parser.get(), on_doctype);
 
     XML_Index fed = 0;

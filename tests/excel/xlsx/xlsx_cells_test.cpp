@@ -165,6 +165,16 @@ TEST(XlsxCellen, een_blad_in_utf_16_wordt_gelezen) {
     EXPECT_EQ(opened(test::zip_of(parts)).shown("A1"), "5");
 }
 
+TEST(XlsxCellen, een_blad_in_windows_1252_wordt_gelezen_en_een_onbekende_codering_niet) {
+    const std::string sheet =
+        "\"?><worksheet><sheetData><row><c t=\"str\"><v>Zo\xEB \x80</v></c></row></sheetData></worksheet>";
+    auto parts = XlsxMaker{}.parts();
+    test::replace_part(parts, "xl/worksheets/sheet1.xml", "<?xml version=\"1.0\" encoding=\"Windows-1252" + sheet);
+    EXPECT_EQ(opened(test::zip_of(parts)).shown("A1"), "Zoë €");
+    test::replace_part(parts, "xl/worksheets/sheet1.xml", "<?xml version=\"1.0\" encoding=\"klingon" + sheet);
+    EXPECT_EQ(open_xlsx(test::zip_of(parts)).value()->read_sheet(0).error(), OpenFailure::damaged);
+}
+
 TEST(XlsxCellen, de_plaats_van_een_cel) {
     EXPECT_EQ(parse_cell_reference("A1")->column, 0U);
     EXPECT_EQ(parse_cell_reference("XFD1048576")->column, 16383U);

@@ -1,11 +1,14 @@
 #include "ui/settings/frmInstellingen.h"
 
+#include "app/start.h"
 #include "platform/qt_text.h"
+#include "ui/main/frmTavelo.h"
 #include "ui/settings/frmInstellingen_besturing.h"
 #include "ui/settings/instellingen_opstelling.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QFontDatabase>
@@ -587,6 +590,54 @@ TEST_F(FrmInstellingen, opent_naast_het_voorbeeld_van_het_hoofdvenster) {
     const QRect vlak(voorbeeld.mapToGlobal(QPoint(0, 0)), voorbeeld.size());
     EXPECT_FALSE(venster.geometry().intersects(vlak));
     EXPECT_TRUE(scherm.contains(venster.pos()));
+}
+
+// The first pixel of a picture area as it is painted.
+QColor eerste_beeldpunt(QWidget& vlak) { return vlak.grab().toImage().pixelColor(0, 0); }
+
+class Schilderteller final : public QObject {
+  public:
+    explicit Schilderteller(QWidget& vlak) { vlak.installEventFilter(this); }
+    bool eventFilter(QObject* /*vlak*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint) ++aantal;
+        return false;
+    }
+    int aantal = 0;
+};
+
+TEST(FrmInstellingenMetHoofdvenster, voorbeeld_en_deelnemersvenster_volgen_elke_wijziging_en_komen_terug) {
+    test::InstellingenOpstelling proef;
+    test::FakeColourDialog kleuren;
+    test::FakeSettings opslag;
+    test::FakeSpecialFolders mappen;
+    frmTavelo hoofdvenster(proef.bediening, {opslag, mappen, ".", [] {}, [](frmTavelo&) {}});
+    Main(
+        proef.programma, opslag, [] { return false; }, hoofdvenster);
+    hoofdvenster.findChild<QAction*>("mnuPopup")->trigger();
+    auto& voorbeeld = *hoofdvenster.centralWidget()->findChild<QWidget*>("picDeelnemer");
+    auto& monitor = *hoofdvenster.findChild<QWidget*>("frmDeelnemer")->findChild<QWidget*>("picDeelnemer");
+    ASSERT_EQ(eerste_beeldpunt(voorbeeld), QColor(Qt::white));
+
+    frmInstellingen venster(
+        proef.bediening, kleuren, [&] { hoofdvenster.toon_vertoningen(); }, &hoofdvenster);
+    venster.show();
+    QCoreApplication::processEvents();
+    const Schilderteller op_voorbeeld(voorbeeld);
+    const Schilderteller op_monitor(monitor);
+    kleuren.answer = 0x00FF00;
+    QTest::mouseClick(venster.findChild<QWidget*>("btnKleur_0"), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return op_voorbeeld.aantal > 0 && op_monitor.aantal > 0; }));
+    EXPECT_EQ(eerste_beeldpunt(voorbeeld), QColor(Qt::green));
+    EXPECT_EQ(eerste_beeldpunt(monitor), QColor(Qt::green));
+    kleuren.answer = 0x0000FF;
+    QTest::mouseClick(venster.findChild<QWidget*>("btnKleur_2"), Qt::LeftButton);
+    QTest::mouseClick(venster.findChild<QWidget*>("chkRubriek"), Qt::LeftButton, {}, QPoint(10, 10));
+    EXPECT_EQ(eerste_beeldpunt(voorbeeld), QColor(Qt::red)); // the heading lies over the top
+    EXPECT_EQ(eerste_beeldpunt(monitor), QColor(Qt::red));
+
+    venster.reject();
+    EXPECT_EQ(eerste_beeldpunt(voorbeeld), QColor(Qt::white));
+    EXPECT_EQ(eerste_beeldpunt(monitor), QColor(Qt::white));
 }
 
 } // namespace

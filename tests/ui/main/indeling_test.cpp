@@ -1,0 +1,64 @@
+#include "ui/main/indeling.h"
+
+#include <gtest/gtest.h>
+
+namespace tavelo {
+namespace {
+
+// As drawn at design time; what the window's size decides is filled with a size that may not survive.
+Plaatsen ontwerp() {
+    Plaatsen plaatsen;
+    plaatsen.grdRooster = {120, 840, 7000, 1};
+    plaatsen.picDeelnemer = {7200, 3000, 1, 1};
+    plaatsen.frameRoosterinstellingen = {7300, 840, 1, 2000};
+    plaatsen.labelbreedte = 1;
+    return plaatsen;
+}
+
+TEST(Indeling, grid_voorbeeld_en_kader_volgen_het_venster) {
+    const Plaatsen p = deel_in({15000, 9000}, ontwerp(), 150);
+    EXPECT_EQ(p.grdRooster.hoogte, 9000 - 840 - 102);
+    EXPECT_EQ(p.picDeelnemer.breedte, 15000 - 7200 - 120);
+    EXPECT_EQ(p.picDeelnemer.hoogte, 9000 - 3000 - 120);
+    EXPECT_EQ(p.frameRoosterinstellingen.breedte, 15000 - 7300 - 120);
+    EXPECT_EQ(p.labelbreedte, 15000 - 7300 - 120 - 150 - 120);
+}
+
+TEST(Indeling, wat_het_venster_niet_volgt_blijft_staan) {
+    const Plaatsen p = deel_in({15000, 9000}, ontwerp(), 150);
+    EXPECT_EQ(p.grdRooster.links, 120);
+    EXPECT_EQ(p.grdRooster.boven, 840);
+    EXPECT_EQ(p.grdRooster.breedte, 7000);
+    EXPECT_EQ(p.picDeelnemer.links, 7200);
+    EXPECT_EQ(p.picDeelnemer.boven, 3000);
+    EXPECT_EQ(p.frameRoosterinstellingen.links, 7300);
+    EXPECT_EQ(p.frameRoosterinstellingen.boven, 840);
+    EXPECT_EQ(p.frameRoosterinstellingen.hoogte, 2000);
+}
+
+TEST(Indeling, onder_9000_bij_6000_krimpt_er_niets_meer) {
+    const Plaatsen kleinste = deel_in({9000, 6000}, ontwerp(), 150);
+    EXPECT_EQ(kleinste.grdRooster.hoogte, 6000 - 840 - 102);
+    EXPECT_EQ(kleinste.picDeelnemer.breedte, 9000 - 7200 - 120);
+    EXPECT_EQ(kleinste.picDeelnemer.hoogte, 6000 - 3000 - 120);
+    for (const Maat maat : {Maat{8999, 5999}, Maat{100, 100}, Maat{0, 0}}) {
+        const Plaatsen p = deel_in(maat, ontwerp(), 150);
+        EXPECT_EQ(p.grdRooster.hoogte, kleinste.grdRooster.hoogte) << maat.breedte;
+        EXPECT_EQ(p.picDeelnemer.breedte, kleinste.picDeelnemer.breedte) << maat.breedte;
+        EXPECT_EQ(p.picDeelnemer.hoogte, kleinste.picDeelnemer.hoogte) << maat.breedte;
+        EXPECT_EQ(p.frameRoosterinstellingen.breedte, kleinste.frameRoosterinstellingen.breedte) << maat.breedte;
+        EXPECT_EQ(p.labelbreedte, kleinste.labelbreedte) << maat.breedte;
+    }
+}
+
+TEST(Indeling, breedte_en_hoogte_hebben_elk_hun_eigen_grens) {
+    const Plaatsen smal = deel_in({100, 9000}, ontwerp(), 150);
+    EXPECT_EQ(smal.picDeelnemer.breedte, 9000 - 7200 - 120);
+    EXPECT_EQ(smal.picDeelnemer.hoogte, 9000 - 3000 - 120);
+    const Plaatsen laag = deel_in({15000, 100}, ontwerp(), 150);
+    EXPECT_EQ(laag.picDeelnemer.breedte, 15000 - 7200 - 120);
+    EXPECT_EQ(laag.grdRooster.hoogte, 6000 - 840 - 102);
+}
+
+} // namespace
+} // namespace tavelo

@@ -111,7 +111,7 @@ RoosterView::RoosterView(Grid& grid, QWidget* parent) : QTableView(parent), grid
 
     // The widths of the columns are made for a narrow letter of this size.
     QFont letter(QStringLiteral("Arial"));
-    letter.setPixelSize(12);
+    letter.setPointSizeF(11.5 * 72 / logicalDpiY());
     setFont(letter);
     horizontalHeader()->setFont(letter);
     verticalHeader()->hide();

@@ -411,6 +411,7 @@ void frmTavelo::keyPressEvent(QKeyEvent* event) {
         if (programma_.deelnemer_open && deelnemer_) {
             deelnemer_->wissel_weergave(deelnemer_bijschrift_hoofdvenster);
             activateWindow(); // the operator goes on typing here
+            deelnemer_->raise();
         }
         return;
     }

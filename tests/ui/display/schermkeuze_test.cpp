@@ -1,0 +1,75 @@
+#include "ui/display/schermkeuze.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace tavelo {
+namespace {
+
+const Scherm laptop{"eDP-1", {0, 0, 1920, 1080}};
+const Scherm monitor{"HDMI-1", {1920, 0, 3840, 2160}};
+const Scherm beamer{"DP-2", {-1280, 0, 1280, 720}};
+constexpr Schermvlak op_laptop{100, 100, 1240, 760};
+constexpr Schermvlak wens{0, 0, 960, 540};
+
+TEST(Publieksscherm, is_het_eerste_scherm_waar_het_hoofdvenster_niet_staat) {
+    const std::array schermen = {laptop, monitor, beamer};
+    EXPECT_EQ(publieksscherm(schermen, op_laptop, ""), 1U);
+    EXPECT_EQ(publieksscherm(schermen, {2000, 100, 1240, 760}, ""), 0U);
+}
+
+TEST(Publieksscherm, is_het_genoemde_scherm_als_dat_er_is_ook_waar_het_hoofdvenster_staat) {
+    const std::array schermen = {laptop, monitor, beamer};
+    EXPECT_EQ(publieksscherm(schermen, op_laptop, "DP-2"), 2U);
+    EXPECT_EQ(publieksscherm(schermen, op_laptop, "eDP-1"), 0U);
+    EXPECT_EQ(publieksscherm(schermen, op_laptop, "weg"), 1U);
+}
+
+TEST(Publieksscherm, is_er_niet_met_een_scherm_of_geen) {
+    EXPECT_EQ(publieksscherm(std::array{laptop}, op_laptop, ""), std::nullopt);
+    EXPECT_EQ(publieksscherm({}, op_laptop, ""), std::nullopt);
+}
+
+TEST(SchermVan, is_het_scherm_dat_het_meeste_van_het_venster_toont) {
+    const std::array schermen = {laptop, monitor};
+    EXPECT_EQ(scherm_van(schermen, {1800, 0, 1000, 500}), 1U);
+    EXPECT_EQ(scherm_van(schermen, {1000, 0, 1000, 500}), 0U);
+    EXPECT_EQ(scherm_van(schermen, {9000, 9000, 10, 10}), 0U);
+    EXPECT_EQ(scherm_van({}, {0, 0, 10, 10}), std::nullopt);
+}
+
+TEST(PlaatsMidden, staat_in_het_midden_en_past_zich_aan_een_klein_scherm_aan) {
+    EXPECT_EQ(plaats_midden(monitor.vlak, wens), (Schermvlak{3360, 810, 960, 540}));
+    EXPECT_EQ(plaats_midden({0, 0, 480, 640}, wens), (Schermvlak{0, 185, 480, 270}));
+}
+
+TEST(PlaatsNaast, staat_naast_het_hoofdvenster_waar_de_meeste_ruimte_is) {
+    const Schermvlak nummervak{110, 120, 140, 84};
+    // Right of it 580 wide is left: shrunk in proportion and in the middle of that room.
+    EXPECT_EQ(plaats_naast(laptop.vlak, op_laptop, nummervak, wens), (Schermvlak{1340, 377, 580, 326}));
+    EXPECT_EQ(plaats_naast(laptop.vlak, {900, 0, 1020, 1080}, {910, 20, 140, 84}, wens),
+              (Schermvlak{0, 287, 900, 506}));
+    EXPECT_EQ(overlap(plaats_naast(laptop.vlak, {0, 600, 1920, 480}, {10, 620, 140, 84}, wens), {0, 600, 1920, 480}),
+              0);
+}
+
+TEST(PlaatsNaast, zonder_ruimte_ernaast_staat_hij_in_de_hoek_en_nooit_over_het_nummervak) {
+    const Schermvlak scherm{0, 0, 1280, 800};
+    EXPECT_EQ(plaats_naast(scherm, {0, 0, 1280, 800}, {80, 60, 140, 84}, wens), (Schermvlak{640, 440, 640, 360}));
+    // With the box at the foot of the screen, the top right corner.
+    EXPECT_EQ(plaats_naast(scherm, {0, 0, 1280, 800}, {80, 700, 140, 84}, wens), (Schermvlak{640, 0, 640, 360}));
+    for (int y = 0; y < 800; y += 50) {
+        const Schermvlak nummervak{900, y, 300, 100};
+        EXPECT_EQ(overlap(plaats_naast(scherm, {0, 0, 1280, 800}, nummervak, wens), nummervak), 0) << y;
+    }
+}
+
+TEST(Overlap, raken_is_geen_overlap) {
+    EXPECT_EQ(overlap({0, 0, 10, 10}, {10, 0, 10, 10}), 0);
+    EXPECT_EQ(overlap({0, 0, 10, 10}, {5, 5, 10, 10}), 25);
+    EXPECT_EQ(overlap({0, 0, 100000, 100000}, {0, 0, 100000, 100000}), 10'000'000'000);
+}
+
+} // namespace
+} // namespace tavelo

@@ -221,10 +221,12 @@ frmIntro::frmIntro(QWidget* parent) : QDialog(parent, Qt::Dialog | Qt::Frameless
 
     timer1_.setObjectName(QStringLiteral("Timer1"));
     timer1_.setSingleShot(true);
+    timer1_.setTimerType(Qt::PreciseTimer);
     connect(&timer1_, &QTimer::timeout, this, &QDialog::accept);
     timer1_.start(intro_duur_ms);
 
     timer2_.setObjectName(QStringLiteral("Timer2"));
+    timer2_.setTimerType(Qt::PreciseTimer);
     connect(&timer2_, &QTimer::timeout, this, [this] {
         zet_transparantie(*this, vervaging_.volgende());
         if (vervaging_.klaar()) timer2_.stop();

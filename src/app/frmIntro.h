@@ -16,8 +16,8 @@ class frmIntro final : public QDialog {
 
   private:
     Vervaging vervaging_;
-    QTimer timer1_;
-    QTimer timer2_;
+    QTimer timer1_{this};
+    QTimer timer2_{this};
 };
 
 } // namespace tavelo

@@ -64,8 +64,8 @@ frmDeelnemer::~frmDeelnemer() {
     if (!gesloten_) programma_.deelnemer_open = false;
 }
 
-void frmDeelnemer::open() {
-    schermen_ = aanwezige_schermen();
+void frmDeelnemer::open(const std::vector<Scherm>& schermen) {
+    schermen_ = schermen;
     verplaats(plaats_op(vrij_scherm()));
     show();
     onthoud_scherm();

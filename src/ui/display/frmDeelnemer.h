@@ -19,6 +19,9 @@ inline constexpr std::string_view deelnemer_bijschrift = "Toon combinatie (F11 v
 // What F11 in the main window leaves as caption.
 inline constexpr std::string_view deelnemer_bijschrift_hoofdvenster = "Monitor venster (F11 voor beeldvullend)";
 
+// The screens as they are now: their names and usable places.
+[[nodiscard]] std::vector<Scherm> aanwezige_schermen();
+
 class frmDeelnemer final : public QWidget {
   public:
     // `stel_samen` composes the current combination in `vertoning`. The window deletes itself when it is closed.
@@ -28,7 +31,8 @@ class frmDeelnemer final : public QWidget {
     ~frmDeelnemer() override;
 
     // Shows it on the screen where it belongs, without taking the focus from the operator.
-    void open();
+    void open() { open(aanwezige_schermen()); }
+    void open(const std::vector<Scherm>& schermen);
     void ververs() { picDeelnemer_.ververs(); }
 
     [[nodiscard]] bool beeldvullend() const { return windowTitle().isEmpty(); }
@@ -70,8 +74,5 @@ class frmDeelnemer final : public QWidget {
     Schermvlak terug_plaats_;
     bool verplaatst_zelf_ = false; // a move by the program does not change where it belongs
 };
-
-// The screens as they are now: their names and usable places.
-[[nodiscard]] std::vector<Scherm> aanwezige_schermen();
 
 } // namespace tavelo

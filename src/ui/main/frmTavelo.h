@@ -106,7 +106,7 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     std::vector<Detail> details_;
     VertoningWidget* picDeelnemer_ = nullptr;
     QPointer<frmDeelnemer> deelnemer_;
-    QTimer timer1_;
+    QTimer timer1_{this};
 
     Plaatsen ontwerp_;
     int label_links_ = 0;   // twips

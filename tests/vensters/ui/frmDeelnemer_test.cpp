@@ -1,0 +1,171 @@
+#include "ui/display/frmDeelnemer.h"
+
+#include "fakes/opstelling.h"
+#include "platform/codeWindowPos.h"
+#include "ui/main/huidige_combinatie.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace tavelo {
+namespace {
+
+struct FrmDeelnemer : testing::Test {
+    test::Opstelling opstelling;
+    Programma& programma = opstelling.programma;
+    QWidget hoofdvenster;
+    QWidget nummervak{&hoofdvenster};
+    frmDeelnemer* venster = nullptr;
+    int samengesteld = 0;
+
+    void SetUp() override {
+        hoofdvenster.setGeometry(0, 0, 400, 300);
+        nummervak.setGeometry(10, 10, 100, 50);
+        hoofdvenster.show();
+        venster = new frmDeelnemer(
+            programma, opstelling.bediening.deelnemer_venster,
+            [this] {
+                ++samengesteld;
+                toon_deelnemer_venster(opstelling.bediening);
+            },
+            hoofdvenster, nummervak);
+    }
+    void open(const std::vector<Scherm>& schermen = aanwezige_schermen()) const {
+        venster->open(schermen);
+        QCoreApplication::processEvents();
+    }
+    [[nodiscard]] Schermvlak plaats() const {
+        const QRect r = venster->geometry();
+        return {r.x(), r.y(), r.width(), r.height()};
+    }
+};
+
+const Scherm bureau{"bureau", {0, 0, 1280, 800}};
+const Scherm monitor{"monitor", {1280, 0, 1920, 1080}};
+const Scherm beamer{"beamer", {0, 800, 1024, 768}};
+
+TEST_F(FrmDeelnemer, zet_de_vlag_bij_openen_en_wist_haar_bij_sluiten) {
+    open();
+    EXPECT_TRUE(programma.deelnemer_open);
+    EXPECT_EQ(venster->windowTitle(), "Toon combinatie (F11 voor beeldvullend)");
+    venster->close();
+    EXPECT_FALSE(programma.deelnemer_open);
+}
+
+TEST_F(FrmDeelnemer, staat_nooit_over_het_nummervak) {
+    open();
+    const QRect vak(nummervak.mapToGlobal(QPoint(0, 0)), nummervak.size());
+    EXPECT_FALSE(venster->frameGeometry().intersects(vak));
+}
+
+TEST_F(FrmDeelnemer, bij_een_andere_maat_vullen_de_vlakken_het_venster_en_wordt_opnieuw_samengesteld) {
+    open();
+    programma.instellingen.backcolor = 0x0000FF; // red
+    programma.instellingen.rubricbackcolor = 0xFF0000;
+    programma.instellingen.showrubric = 1;
+    programma.instellingen.textsize = 100;
+    programma.instellingen.rubrictextsize = 100;
+    programma.instellingen.fontname = "Arial";
+    const int eerder = samengesteld;
+    venster->resize(801, 451);
+    QCoreApplication::processEvents();
+    EXPECT_GT(samengesteld, eerder);
+    auto* vlak = venster->findChild<QWidget*>("picDeelnemer");
+    auto* band = venster->findChild<QWidget*>("picRubriek");
+    ASSERT_TRUE(vlak && band);
+    EXPECT_EQ(vlak->geometry(), QRect(0, 0, 801, 451));
+    EXPECT_EQ(opstelling.bediening.deelnemer_venster.picDeelnemer.breedte, 801 * 15);
+    EXPECT_EQ(opstelling.bediening.deelnemer_venster.picDeelnemer.hoogte, 451 * 15);
+    EXPECT_TRUE(band->isVisible());
+    EXPECT_EQ(band->width(), 801);
+    const QImage beeld = venster->grab().toImage();
+    EXPECT_EQ(beeld.pixelColor(790, 440), QColor(Qt::red));
+    EXPECT_EQ(beeld.pixelColor(790, 3), QColor(Qt::blue));
+}
+
+TEST_F(FrmDeelnemer, f11_wisselt_en_geeft_zijn_eigen_bijschrift_terug) {
+    open();
+    QTest::keyClick(venster, Qt::Key_F11);
+    EXPECT_TRUE(venster->beeldvullend());
+    EXPECT_TRUE(venster->isFullScreen());
+    EXPECT_TRUE(staat_bovenaan(*venster));
+    QTest::keyClick(venster, Qt::Key_F11);
+    EXPECT_FALSE(venster->isFullScreen());
+    EXPECT_FALSE(staat_bovenaan(*venster));
+    EXPECT_EQ(venster->windowTitle(), "Toon combinatie (F11 voor beeldvullend)");
+}
+
+TEST_F(FrmDeelnemer, f11_met_een_andere_toets_en_andere_toetsen_doen_niets) {
+    open();
+    for (const auto toets : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier})
+        QTest::keyClick(venster, Qt::Key_F11, toets);
+    QTest::keyClick(venster, Qt::Key_Escape);
+    QTest::keyClick(venster, Qt::Key_F10);
+    EXPECT_FALSE(venster->beeldvullend());
+    EXPECT_TRUE(venster->isVisible());
+}
+
+TEST_F(FrmDeelnemer, opent_op_het_scherm_waar_het_hoofdvenster_niet_is) {
+    open({bureau, monitor});
+    EXPECT_EQ(plaats(), (Schermvlak{1760, 270, 960, 540}));
+}
+
+TEST_F(FrmDeelnemer, wijkt_uit_naar_een_ander_scherm_en_blijft_daar_beeldvullend) {
+    open({bureau, monitor, beamer});
+    venster->setGeometry(1500, 200, 960, 540); // dragged to the monitor
+    QTest::keyClick(venster, Qt::Key_F11);
+    venster->pas_schermen_toe({bureau, beamer});
+    EXPECT_TRUE(venster->beeldvullend());
+    EXPECT_GT(overlap({venster->normalGeometry().x(), venster->normalGeometry().y(), 960, 540}, beamer.vlak), 0);
+    venster->pas_schermen_toe({bureau, monitor, beamer});
+    EXPECT_TRUE(venster->beeldvullend());
+    EXPECT_EQ(venster->normalGeometry(), QRect(1500, 200, 960, 540));
+}
+
+TEST_F(FrmDeelnemer, met_alleen_het_scherm_van_de_operateur_gaat_hij_uit_beeldvullend_en_daarna_terug) {
+    open({bureau, monitor});
+    venster->setGeometry(1500, 200, 960, 540);
+    QTest::keyClick(venster, Qt::Key_F11);
+    venster->pas_schermen_toe({bureau});
+    EXPECT_FALSE(venster->beeldvullend());
+    EXPECT_FALSE(staat_bovenaan(*venster));
+    EXPECT_EQ(overlap(plaats(), bureau.vlak), 1LL * venster->width() * venster->height());
+    EXPECT_EQ(overlap(plaats(), {0, 0, 400, 300}), 0); // beside the operator's window
+    venster->pas_schermen_toe({bureau});               // told once more: nothing happens
+    EXPECT_FALSE(venster->beeldvullend());
+    venster->pas_schermen_toe({bureau, monitor});
+    EXPECT_TRUE(venster->beeldvullend());
+    EXPECT_TRUE(staat_bovenaan(*venster));
+    EXPECT_EQ(venster->normalGeometry(), QRect(1500, 200, 960, 540));
+}
+
+TEST_F(FrmDeelnemer, een_gewoon_venster_gaat_ook_mee_en_komt_terug_op_zijn_plaats) {
+    open({bureau, monitor});
+    venster->setGeometry(1500, 200, 640, 360);
+    venster->pas_schermen_toe({bureau});
+    EXPECT_GT(overlap(plaats(), bureau.vlak), 0);
+    venster->pas_schermen_toe({bureau, monitor});
+    EXPECT_EQ(plaats(), (Schermvlak{1500, 200, 640, 360}));
+}
+
+TEST_F(FrmDeelnemer, een_monitor_die_elders_terugkomt_krijgt_het_venster_in_zijn_midden) {
+    open({bureau, monitor});
+    venster->setGeometry(1500, 200, 640, 360);
+    venster->pas_schermen_toe({bureau});
+    const Scherm verhuisd{"monitor", {-1920, 0, 1920, 1080}};
+    venster->pas_schermen_toe({bureau, verhuisd});
+    EXPECT_EQ(plaats(), (Schermvlak{-1440, 270, 960, 540}));
+}
+
+TEST_F(FrmDeelnemer, een_scherm_erbij_verplaatst_niets) {
+    open({bureau, monitor});
+    venster->setGeometry(1500, 200, 640, 360);
+    venster->pas_schermen_toe({bureau, monitor, beamer});
+    EXPECT_EQ(plaats(), (Schermvlak{1500, 200, 640, 360}));
+    venster->pas_schermen_toe({}); // for a moment no screen at all
+    EXPECT_EQ(plaats(), (Schermvlak{1500, 200, 640, 360}));
+}
+
+} // namespace
+} // namespace tavelo

@@ -1,0 +1,499 @@
+#include "ui/main/frmTavelo.h"
+
+#include "fakes/opstelling.h"
+#include "fakes/temp_folder.h"
+#include "platform/codeWindowPos.h"
+#include "platform/qt_text.h"
+#include "schedule/record/kolommen.h"
+#include "ui/display/frmDeelnemer.h"
+
+#include <QAction>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+namespace tavelo {
+namespace {
+
+// A schedule as the suite writes it, with the numbers as start list.
+std::string roosterbestand(const std::vector<int>& nummers, const std::string& naam = "Ruiter") {
+    std::string tekst = "[Vendalo 3.4]\r\nsinglesignin:0\r\nhoofdstelnummerautomatisch:False\r\n";
+    std::string lijst;
+    for (const int n : nummers) {
+        const std::string nummer = std::to_string(n);
+        tekst += "dnr:" + nummer + "\ttype:1\tna:" + naam + " " + nummer + "\tpa:Paard " + nummer + "\r\n";
+        lijst += "\tdnr:" + nummer + "\t0\t\t0\t\t0\t";
+    }
+    tekst += "rnr:1\trid:S1\troms:Proef\trcom:2\trkla:*B*\trcat:*A*" + lijst + "\r\n";
+    return tekst;
+}
+
+struct FrmTavelo : testing::Test {
+    test::TempFolder map;
+    test::Opstelling opstelling;
+    test::FakeSettings opslag;
+    test::FakeSpecialFolders mappen;
+    Programma& programma = opstelling.programma;
+    int intros = 0;
+    int instellingen_getoond = 0;
+    std::unique_ptr<frmTavelo> venster;
+
+    void SetUp() override {
+        programma.instellingen = laad_instellingen(opslag);
+        programma.muiswiel_aanwezig = true;
+        mappen.folders[5] = map.file("documenten");
+        venster = std::make_unique<frmTavelo>(
+            opstelling.bediening, TaveloOmgeving{opslag, mappen, map.file("programma"), [this] { ++intros; },
+                                                 [this](frmTavelo&) { ++instellingen_getoond; }});
+        venster->laad();
+        QCoreApplication::processEvents();
+    }
+    void TearDown() override {
+        venster.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    template <class Widget = QWidget>
+    [[nodiscard]] Widget& vind(const char* naam) const {
+        auto* gevonden = venster->findChild<Widget*>(naam);
+        if (!gevonden) throw std::runtime_error(std::string("geen ") + naam);
+        return *gevonden;
+    }
+    [[nodiscard]] QLineEdit& txtINR() const { return vind<QLineEdit>("txtINR"); }
+    [[nodiscard]] QTableView& grdRooster() const { return vind<QTableView>("grdRooster"); }
+    [[nodiscard]] frmDeelnemer* deelnemer() const {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (auto* gevonden = dynamic_cast<frmDeelnemer*>(w); gevonden && gevonden->isVisible()) return gevonden;
+        return nullptr;
+    }
+    void open(const std::string& pad) {
+        opstelling.open_dialoog.answer = pad;
+        vind<QAction>("mnuBestand0").trigger();
+    }
+    void open_nummers(const std::vector<int>& nummers) { open(map.write("proef.rst", roosterbestand(nummers))); }
+    void typ(const char* tekst) const {
+        txtINR().selectAll();
+        QTest::keyClicks(&txtINR(), tekst);
+    }
+};
+
+TEST_F(FrmTavelo, toont_na_het_laden_een_leeg_rooster_onder_zijn_titel) {
+    EXPECT_EQ(intros, 1);
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_EQ(venster->windowTitle(), "Vendalo 3.5 Tavelo - [naamloos]");
+    EXPECT_EQ(grdRooster().model()->rowCount(), 0);
+    EXPECT_EQ(grdRooster().model()->columnCount(), 11);
+    EXPECT_TRUE(grdRooster().isColumnHidden(kolom_cnr));
+    EXPECT_EQ(grdRooster().columnWidth(kolom_naam), 160);
+    EXPECT_EQ(venster->focusWidget(), &txtINR());
+}
+
+TEST_F(FrmTavelo, elke_besturing_heeft_haar_naam_en_een_nederlandse_naam_voor_de_schermlezer) {
+    for (const char* naam :
+         {"txtINR", "btnBlader_0", "btnBlader_1", "btnBlader_2", "btnFast_0", "btnFast_1", "btnFast_2", "btnRooster_0",
+          "btnRooster_1", "grdRooster", "picDeelnemer", "lblRubriek", "lblRoosterOmschrijving", "lblRingType",
+          "lblRingNaam", "lblDagTijd", "lblRubriekLijsten", "lblJury"})
+        EXPECT_FALSE(vind(naam).accessibleName().isEmpty()) << naam;
+    EXPECT_EQ(vind("picRubriek").parentWidget(), &vind("picDeelnemer"));
+    EXPECT_EQ(vind<QLabel>("lblNummer").buddy(), &txtINR());
+    for (const char* naam : {"btnFast_0", "btnFast_1", "btnFast_2", "btnRooster_0", "btnBlader_0"})
+        EXPECT_FALSE(vind(naam).toolTip().isEmpty()) << naam;
+}
+
+TEST_F(FrmTavelo, het_menu_staat_in_zijn_volgorde_met_zijn_teksten) {
+    QList<QString> namen;
+    for (const QAction* actie : vind<QMenu>("mnuBestand").actions())
+        namen += actie->objectName() + (actie->isSeparator() ? "-" : ":" + actie->text());
+    EXPECT_EQ(namen, (QList<QString>{"mnuBestand0:&Openen", "mnuBestand1-", "mnuBestand2:&Instellingen", "mnuBestand3-",
+                                     "mnuBestand4:&Afsluiten\tAlt+F4"}));
+    EXPECT_EQ(venster->menuBar()->objectName(), "MenuBar1");
+    EXPECT_EQ(vind<QMenu>("mnuBestand").title(), "&Bestand");
+    EXPECT_EQ(vind<QAction>("mnuBestand0").shortcut(), QKeySequence("Ctrl+O"));
+    EXPECT_EQ(vind<QAction>("mnuBestand0").data().toString(), "bestandopenen");
+    EXPECT_EQ(vind<QAction>("mnuBestand2").data().toString(), "instellingen");
+    EXPECT_EQ(vind<QAction>("mnuPopup").text(), "&Popup");
+}
+
+TEST_F(FrmTavelo, een_geopend_rooster_staat_in_de_lijst_en_in_de_titel) {
+    open_nummers({3, 1, 2});
+    EXPECT_EQ(grdRooster().model()->rowCount(), 3);
+    EXPECT_EQ(grdRooster().model()->index(0, kolom_inr).data().toString(), "3");
+    EXPECT_TRUE(venster->windowTitle().contains("proef.rst")) << utf8(venster->windowTitle());
+    EXPECT_TRUE(vind("btnRooster_0").toolTip().contains("proef.rst"));
+    EXPECT_EQ(vind<QLabel>("lblRoosterOmschrijving").text().toStdString(), programma.labels.lblRoosterOmschrijving);
+}
+
+TEST_F(FrmTavelo, de_openknop_en_ctrl_o_vragen_om_een_bestand_voor_het_huidige_slot) {
+    QTest::mouseClick(&vind("btnFast_0"), Qt::LeftButton);
+    EXPECT_EQ(opstelling.open_dialoog.requests.size(), 1U);
+    QTest::keyClick(venster.get(), Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(opstelling.open_dialoog.requests.size(), 2U);
+}
+
+TEST_F(FrmTavelo, instellingen_komen_uit_het_menu_en_onder_de_knop) {
+    vind<QAction>("mnuBestand2").trigger();
+    QTest::mouseClick(&vind("btnFast_1"), Qt::LeftButton);
+    EXPECT_EQ(instellingen_getoond, 2);
+}
+
+TEST_F(FrmTavelo, een_getypt_nummer_licht_op_en_staat_op_het_voorbeeld) {
+    open_nummers({3, 1, 12});
+    typ("1");
+    EXPECT_EQ(programma.huidige_regel, 2);
+    typ("12");
+    EXPECT_EQ(programma.huidige_regel, 3);
+    EXPECT_EQ(grdRooster().currentIndex().row(), 2);
+    const auto& regels = opstelling.bediening.voorbeeld.picDeelnemer.regels();
+    EXPECT_TRUE(std::ranges::any_of(regels, [](const GeplaatsteTekst& r) { return r.tekst == "Ruiter 12"; }));
+    QTest::keyClick(&txtINR(), Qt::Key_Return);
+    EXPECT_EQ(txtINR().selectedText(), "12");
+}
+
+TEST_F(FrmTavelo, het_nummervak_neemt_elke_tekst) {
+    open_nummers({7});
+    typ("abc");
+    EXPECT_EQ(programma.txtINR, "abc");
+    EXPECT_EQ(programma.huidig_nummer, 0);
+    typ("99999");
+    EXPECT_EQ(programma.huidig_nummer, 0);
+    typ(" 7");
+    EXPECT_EQ(programma.huidige_regel, 1);
+    EXPECT_EQ(txtINR().text(), " 7");
+}
+
+TEST_F(FrmTavelo, een_nummer_buiten_beeld_wordt_in_beeld_gebracht) {
+    std::vector<int> nummers(200);
+    for (int i = 0; i < 200; ++i)
+        nummers[static_cast<std::size_t>(i)] = i + 1;
+    open_nummers(nummers);
+    typ("150");
+    const QRect rij = grdRooster().visualRect(grdRooster().model()->index(149, kolom_naam));
+    EXPECT_TRUE(grdRooster().viewport()->rect().contains(rij));
+}
+
+TEST_F(FrmTavelo, een_klik_in_de_lijst_toont_precies_die_rij) {
+    open_nummers({5, 6, 5});
+    typ("5");
+    EXPECT_EQ(programma.huidige_regel, 3);
+    QTest::mouseClick(grdRooster().viewport(), Qt::LeftButton, {},
+                      grdRooster().visualRect(grdRooster().model()->index(0, kolom_naam)).center());
+    EXPECT_EQ(programma.huidige_regel, 1);
+    EXPECT_EQ(txtINR().text(), "5");
+}
+
+TEST_F(FrmTavelo, na_wissen_kiest_een_klik_op_rij_1_die_rij_weer) {
+    open_nummers({5, 6});
+    typ("6");
+    QTest::mouseClick(&vind("btnBlader_2"), Qt::LeftButton);
+    EXPECT_EQ(txtINR().text(), "");
+    EXPECT_EQ(programma.huidige_regel, 0);
+    QTest::mouseClick(grdRooster().viewport(), Qt::LeftButton, {},
+                      grdRooster().visualRect(grdRooster().model()->index(0, kolom_naam)).center());
+    EXPECT_EQ(programma.huidige_regel, 1);
+    EXPECT_EQ(txtINR().text(), "5");
+}
+
+TEST_F(FrmTavelo, bladeren_gaat_met_de_knoppen_en_met_hun_toetsen) {
+    open_nummers({5, 6, 7});
+    typ("6");
+    QTest::mouseClick(&vind("btnBlader_1"), Qt::LeftButton);
+    EXPECT_EQ(txtINR().text(), "7");
+    QTest::mouseClick(&vind("btnBlader_1"), Qt::LeftButton);
+    EXPECT_EQ(txtINR().text(), "7");
+    QTest::mouseClick(&vind("btnBlader_0"), Qt::LeftButton);
+    QTest::mouseClick(&vind("btnBlader_0"), Qt::LeftButton);
+    QTest::mouseClick(&vind("btnBlader_0"), Qt::LeftButton);
+    EXPECT_EQ(txtINR().text(), "5");
+    QTest::keyClick(venster.get(), Qt::Key_O, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return txtINR().text() == "6"; }));
+    QTest::keyClick(venster.get(), Qt::Key_V, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return txtINR().text() == "5"; }));
+    QTest::keyClick(venster.get(), Qt::Key_W, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return txtINR().text() == ""; }));
+    EXPECT_EQ(venster->focusWidget(), &txtINR());
+}
+
+TEST_F(FrmTavelo, een_cijfer_in_de_lijst_begint_een_nieuw_nummer) {
+    open_nummers({5, 6, 16});
+    typ("5");
+    grdRooster().setFocus();
+    QTest::keyClick(&grdRooster(), Qt::Key_1);
+    EXPECT_EQ(venster->focusWidget(), &txtINR());
+    EXPECT_EQ(txtINR().text(), "1");
+    QTest::keyClick(&txtINR(), Qt::Key_6);
+    EXPECT_EQ(programma.huidige_regel, 3);
+}
+
+TEST_F(FrmTavelo, de_slotknoppen_staan_in_en_uit_en_rechts_vraagt_een_ander_bestand) {
+    auto& slot0 = vind<QToolButton>("btnRooster_0");
+    auto& slot1 = vind<QToolButton>("btnRooster_1");
+    EXPECT_TRUE(slot0.isChecked());
+    open_nummers({1});
+    opstelling.open_dialoog.answer = map.write("tweede.rst", roosterbestand({8, 9}));
+    QTest::mouseClick(&slot1, Qt::LeftButton); // no file yet: asks
+    EXPECT_TRUE(slot1.isChecked());
+    EXPECT_FALSE(slot0.isChecked());
+    EXPECT_EQ(grdRooster().model()->rowCount(), 2);
+    QTest::mouseClick(&slot0, Qt::LeftButton); // has one: reloads
+    EXPECT_TRUE(slot0.isChecked());
+    EXPECT_FALSE(slot1.isChecked());
+    EXPECT_EQ(grdRooster().model()->rowCount(), 1);
+    EXPECT_EQ(opstelling.open_dialoog.requests.size(), 2U);
+    QTest::mouseClick(&slot0, Qt::LeftButton);
+    EXPECT_TRUE(slot0.isChecked()); // stays down
+
+    opstelling.open_dialoog.answer = map.write("derde.rst", roosterbestand({1, 2, 3}));
+    QContextMenuEvent rechts(QContextMenuEvent::Mouse, QPoint(5, 5), slot1.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&slot1, &rechts);
+    EXPECT_EQ(opstelling.open_dialoog.requests.size(), 3U);
+    EXPECT_TRUE(slot1.isChecked());
+    EXPECT_EQ(grdRooster().model()->rowCount(), 3);
+}
+
+TEST_F(FrmTavelo, afsluiten_met_de_muis_doet_niets_en_alt_f4_sluit) {
+    vind<QAction>("mnuBestand4").trigger();
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_EQ(opslag.flushes, 0);
+    QTest::keyClick(venster.get(), Qt::Key_F4, Qt::AltModifier);
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_EQ(opslag.flushes, 1);
+}
+
+TEST_F(FrmTavelo, sluiten_sluit_het_monitorvenster_en_bewaart_een_keer) {
+    vind<QAction>("mnuPopup").trigger();
+    ASSERT_NE(deelnemer(), nullptr);
+    venster->close();
+    EXPECT_EQ(deelnemer(), nullptr);
+    EXPECT_FALSE(programma.deelnemer_open);
+    EXPECT_EQ(opslag.flushes, 1);
+    EXPECT_EQ(opstelling.muisaanwijzer.depth, 0);
+    EXPECT_EQ(opslag.get("Vendalo 3.5 Deelnemer", "Layout", "backcolor"), "16777215");
+    venster->close();
+    EXPECT_EQ(opslag.flushes, 1);
+}
+
+TEST_F(FrmTavelo, popup_twee_keer_opent_en_sluit_het_monitorvenster) {
+    vind<QAction>("mnuPopup").trigger();
+    ASSERT_NE(deelnemer(), nullptr);
+    EXPECT_TRUE(programma.deelnemer_open);
+    EXPECT_EQ(deelnemer()->windowTitle(), "Toon combinatie (F11 voor beeldvullend)");
+    vind<QAction>("mnuPopup").trigger();
+    EXPECT_EQ(deelnemer(), nullptr);
+    EXPECT_FALSE(programma.deelnemer_open);
+    QTest::mouseClick(&vind("btnFast_2"), Qt::LeftButton);
+    EXPECT_NE(deelnemer(), nullptr);
+    deelnemer()->close(); // by its own close box
+    QTest::mouseClick(&vind("btnFast_2"), Qt::LeftButton);
+    EXPECT_NE(deelnemer(), nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(programma.deelnemer_open);
+}
+
+TEST_F(FrmTavelo, f11_zonder_monitorvenster_doet_niets) {
+    QTest::keyClick(&txtINR(), Qt::Key_F11);
+    EXPECT_EQ(deelnemer(), nullptr);
+    EXPECT_EQ(txtINR().text(), "");
+}
+
+TEST_F(FrmTavelo, f11_maakt_het_monitorvenster_beeldvullend_en_weer_gewoon) {
+    vind<QAction>("mnuPopup").trigger();
+    frmDeelnemer& monitor = *deelnemer();
+    QTest::keyClick(&txtINR(), Qt::Key_F11);
+    EXPECT_EQ(monitor.windowTitle(), "");
+    EXPECT_TRUE(monitor.isFullScreen());
+    EXPECT_TRUE(staat_bovenaan(monitor));
+    EXPECT_EQ(monitor.cursor().shape(), Qt::BlankCursor);
+    QTest::keyClick(&txtINR(), Qt::Key_F11);
+    EXPECT_EQ(monitor.windowTitle(), "Monitor venster (F11 voor beeldvullend)");
+    EXPECT_FALSE(monitor.isFullScreen());
+    EXPECT_FALSE(staat_bovenaan(monitor));
+    EXPECT_EQ(monitor.cursor().shape(), Qt::ArrowCursor);
+    for (const auto toets : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
+        QTest::keyClick(&txtINR(), Qt::Key_F11, toets);
+        EXPECT_FALSE(monitor.isFullScreen());
+    }
+}
+
+TEST_F(FrmTavelo, een_getypt_nummer_staat_ook_op_het_open_monitorvenster) {
+    open_nummers({4});
+    vind<QAction>("mnuPopup").trigger();
+    EXPECT_TRUE(opstelling.bediening.deelnemer_venster.picDeelnemer.regels().empty());
+    typ("4");
+    EXPECT_FALSE(opstelling.bediening.deelnemer_venster.picDeelnemer.regels().empty());
+}
+
+TEST_F(FrmTavelo, kleiner_dan_9000_bij_6000_twips_krimpen_lijst_en_voorbeeld_niet_verder) {
+    venster->resize(600, 400 + venster->menuBar()->height());
+    const QRect lijst = grdRooster().geometry();
+    const QRect voorbeeld = vind("picDeelnemer").geometry();
+    venster->resize(500, 200);
+    EXPECT_EQ(grdRooster().geometry(), lijst);
+    EXPECT_EQ(vind("picDeelnemer").geometry(), voorbeeld);
+    EXPECT_LT(venster->height(), 300);
+}
+
+TEST_F(FrmTavelo, lijst_en_voorbeeld_groeien_mee_met_het_venster) {
+    venster->resize(1300, 800);
+    const QWidget& binnen = *grdRooster().parentWidget();
+    EXPECT_EQ(binnen.height() - (grdRooster().y() + grdRooster().height()), 7); // 102 twips
+    const QWidget& voorbeeld = vind("picDeelnemer");
+    EXPECT_EQ(binnen.width() - (voorbeeld.x() + voorbeeld.width()), 8); // 120 twips
+    EXPECT_EQ(binnen.height() - (voorbeeld.y() + voorbeeld.height()), 8);
+    const QWidget& frame = vind("frameRoosterinstellingen");
+    EXPECT_EQ(binnen.width() - (frame.x() + frame.width()), 8);
+    EXPECT_EQ(vind("lblJury").x() + vind("lblJury").width() + 8, frame.width());
+    EXPECT_EQ(opstelling.bediening.voorbeeld.picDeelnemer.breedte, voorbeeld.width() * 15);
+}
+
+TEST_F(FrmTavelo, de_tabvolgorde_volgt_het_oog) {
+    QList<QString> volgorde;
+    QWidget* w = &txtINR();
+    do {
+        if (!w->objectName().isEmpty() && (w->focusPolicy() & Qt::TabFocus)) volgorde += w->objectName();
+        w = w->nextInFocusChain();
+    } while (w != &txtINR());
+    EXPECT_EQ(volgorde, (QList<QString>{"txtINR", "btnBlader_0", "btnBlader_1", "btnBlader_2", "btnRooster_0",
+                                        "btnRooster_1", "btnFast_0", "btnFast_1", "btnFast_2", "grdRooster"}));
+}
+
+TEST_F(FrmTavelo, knoppen_nemen_bij_een_klik_de_focus_niet_van_het_nummervak) {
+    open_nummers({1, 2});
+    for (const char* naam : {"btnBlader_0", "btnBlader_1", "btnBlader_2", "btnRooster_0"}) {
+        QTest::mouseClick(&vind(naam), Qt::LeftButton);
+        EXPECT_EQ(venster->focusWidget(), &txtINR()) << naam;
+    }
+}
+
+// The timer of the re-import, fired by hand.
+struct FrmTaveloTik : FrmTavelo {
+    std::string pad;
+    void SetUp() override {
+        FrmTavelo::SetUp();
+        pad = map.write("volg.rst", roosterbestand({1, 2, 3}));
+        opstelling.tijdstempels.stamps[pad] = {2026, 6, 13, 9, 0, 0};
+        open(pad);
+    }
+    void herschrijf(const std::vector<int>& nummers, const std::string& naam = "Ruiter") {
+        map.write("volg.rst", roosterbestand(nummers, naam));
+        opstelling.tijdstempels.stamps[pad].minute += 1;
+    }
+    void tik() const { QMetaObject::invokeMethod(&vind<QTimer>("Timer1"), "timeout", Qt::DirectConnection); }
+};
+
+TEST_F(FrmTaveloTik, de_klok_staat_op_tien_seconden_en_loopt) {
+    EXPECT_EQ(vind<QTimer>("Timer1").interval(), 10000);
+    EXPECT_TRUE(vind<QTimer>("Timer1").isActive());
+}
+
+TEST_F(FrmTaveloTik, een_gewijzigd_bestand_wijzigt_de_lijst_zonder_wat_getypt_is_te_storen) {
+    typ("2");
+    txtINR().setCursorPosition(0);
+    QSignalSpy resets(grdRooster().model(), &QAbstractItemModel::modelReset);
+    herschrijf({1, 2, 3}, "Amazone");
+    tik();
+    EXPECT_EQ(grdRooster().model()->index(1, kolom_naam).data().toString(), "Amazone 2");
+    EXPECT_EQ(resets.size(), 0);
+    EXPECT_EQ(txtINR().text(), "2");
+    EXPECT_EQ(txtINR().cursorPosition(), 0);
+    EXPECT_EQ(venster->focusWidget(), &txtINR());
+    EXPECT_EQ(grdRooster().currentIndex().row(), 0); // where filling the times ends
+}
+
+TEST_F(FrmTaveloTik, het_label_wordt_groen_tijdens_het_lezen_en_daarna_weer_gewoon) {
+    struct KleurKijker final : QObject {
+        QList<QColor> kleuren;
+        bool eventFilter(QObject* label, QEvent* gebeurtenis) override {
+            if (gebeurtenis->type() == QEvent::Paint)
+                kleuren += static_cast<QWidget*>(label)->palette().color(QPalette::Window);
+            return false;
+        }
+    } kijker;
+    auto& label = vind("lblRoosterOmschrijving");
+    const QColor gewoon = label.palette().color(QPalette::Window);
+    label.installEventFilter(&kijker);
+    herschrijf({1, 2, 3, 4});
+    tik();
+    EXPECT_EQ(kijker.kleuren, (QList<QColor>{QColor(0xBB, 0xFF, 0xBB), gewoon}));
+    EXPECT_EQ(grdRooster().model()->rowCount(), 4);
+}
+
+TEST_F(FrmTaveloTik, midden_in_het_lezen_gebeurt_er_niets) {
+    herschrijf({1, 2, 3, 4});
+    programma.grdRooster.set_redraw(false); // a reader waits for the answer to its message
+    tik();
+    EXPECT_EQ(programma.grdRooster.rows(), 4);
+    programma.grdRooster.set_redraw(true);
+    tik();
+    EXPECT_EQ(programma.grdRooster.rows(), 5);
+}
+
+struct FrmTaveloWiel : FrmTavelo {
+    void SetUp() override {
+        FrmTavelo::SetUp();
+        std::vector<int> nummers(200);
+        for (int i = 0; i < 200; ++i)
+            nummers[static_cast<std::size_t>(i)] = i + 1;
+        open_nummers(nummers);
+    }
+    // The event arrives at `ontvanger`; the pointer is over `onder`.
+    void draai(QWidget& ontvanger, const QWidget& onder, int eenheden) const {
+        const QPoint punt = onder.mapToGlobal(onder.rect().center());
+        QWheelEvent gebeurtenis(ontvanger.mapFromGlobal(punt), punt, {}, QPoint(0, eenheden), Qt::NoButton,
+                                Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&ontvanger, &gebeurtenis);
+    }
+    [[nodiscard]] int bovenste() const { return programma.grdRooster.top_row(); }
+};
+
+TEST_F(FrmTaveloWiel, een_klik_van_het_wiel_is_een_rij_hoe_groot_de_draai_ook_is) {
+    draai(*grdRooster().viewport(), grdRooster(), -120);
+    EXPECT_EQ(bovenste(), 2);
+    EXPECT_EQ(grdRooster().verticalScrollBar()->value(), 1);
+    draai(*grdRooster().viewport(), grdRooster(), -600);
+    EXPECT_EQ(bovenste(), 3);
+    draai(*grdRooster().viewport(), grdRooster(), 120);
+    draai(*grdRooster().viewport(), grdRooster(), 120);
+    draai(*grdRooster().viewport(), grdRooster(), 120);
+    EXPECT_EQ(bovenste(), 1);
+}
+
+TEST_F(FrmTaveloWiel, kleine_draaien_van_een_plaat_tellen_op_tot_een_klik) {
+    for (int i = 0; i < 7; ++i)
+        draai(*grdRooster().viewport(), grdRooster(), -15);
+    EXPECT_EQ(bovenste(), 1);
+    draai(*grdRooster().viewport(), grdRooster(), -15);
+    EXPECT_EQ(bovenste(), 2);
+}
+
+TEST_F(FrmTaveloWiel, het_wiel_gaat_naar_wat_onder_de_aanwijzer_staat) {
+    draai(vind("picDeelnemer"), grdRooster(), -120); // the picture gets it, the pointer is over the list
+    EXPECT_EQ(bovenste(), 2);
+    draai(*grdRooster().viewport(), vind("picDeelnemer"), -120); // swallowed
+    EXPECT_EQ(bovenste(), 2);
+    grdRooster().setFocus();
+    draai(vind("picDeelnemer"), txtINR(), -120);
+    EXPECT_EQ(venster->focusWidget(), &txtINR());
+    grdRooster().setFocus();
+    txtINR().setEnabled(false);
+    draai(vind("picDeelnemer"), txtINR(), -120);
+    EXPECT_EQ(venster->focusWidget(), &grdRooster());
+}
+
+TEST_F(FrmTaveloWiel, met_de_laatste_rij_in_beeld_gaat_het_niet_verder) {
+    grdRooster().verticalScrollBar()->setValue(grdRooster().verticalScrollBar()->maximum());
+    const int einde = bovenste();
+    for (int i = 0; i < 5; ++i)
+        draai(*grdRooster().viewport(), grdRooster(), -120);
+    EXPECT_EQ(bovenste(), einde);
+    draai(*grdRooster().viewport(), grdRooster(), 120);
+    EXPECT_EQ(bovenste(), einde - 1);
+}
+
+} // namespace
+} // namespace tavelo

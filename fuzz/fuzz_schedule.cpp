@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -71,7 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     programma.rooster_extensie = "rst";
     programma.txtINR = "1";
     const Grid& grid = rooster.grid;
-    programma.schedule = rooster.schedule;
+    programma.schedule = std::move(rooster.schedule);
     constexpr int meeste_rijen = 6;
     for (int rij = 1; rij < std::min(grid.rows(), meeste_rijen); ++rij) {
         programma.huidig_nr_tijd = grid.text(rij, kolom_nrtijd);

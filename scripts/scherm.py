@@ -60,47 +60,33 @@ class Beeld:
         gelijk = sum(self.rgb[i:i + 3] == bytes(kleur) for i in range(0, len(self.rgb), 3))
         return gelijk / max(self.breedte * self.hoogte, 1)
 
-    def inktregels(self, achtergrond):
-        """The lines of text on a plain background, top to bottom, each as (left, top, width, height) of its ink.
-
-        Dots and accents that stand loose above a line belong to it.
-        """
-        leeg = bytes(achtergrond) * self.breedte
-        lijn = 3 * self.breedte
-        met_inkt = [self.rgb[y * lijn:(y + 1) * lijn] != leeg for y in range(self.hoogte)]
-        banden, begin = [], None
-        for y, inkt in enumerate(met_inkt + [False]):
-            if inkt and begin is None:
-                begin = y
-            elif not inkt and begin is not None:
-                banden.append([begin, y])
-                begin = None
-        return [self._inktvlak(boven, onder, bytes(achtergrond)) for boven, onder in self._voeg_samen(banden)]
-
-    @staticmethod
-    def _voeg_samen(banden):
-        hoogste = max((onder - boven for boven, onder in banden), default=0)
-        regels = []
-        for boven, onder in banden:
-            if regels and boven - regels[-1][1] < 0.15 * hoogste and onder - regels[-1][0] < 1.45 * hoogste:
-                regels[-1][1] = onder
-            else:
-                regels.append([boven, onder])
-        return regels
-
-    def _inktvlak(self, boven, onder, achtergrond):
+    def inkt(self, achtergrond):
+        """Left and right edge of what is not background, or nothing when all of it is."""
+        leeg, lijn = bytes(achtergrond) * self.breedte, 3 * self.breedte
         links, rechts = self.breedte, 0
-        for y in range(boven, onder):
-            regel = self.rgb[3 * y * self.breedte:3 * (y + 1) * self.breedte]
-            for x in range(self.breedte):
-                if regel[3 * x:3 * x + 3] != achtergrond:
-                    links = min(links, x)
-                    break
-            for x in range(self.breedte - 1, -1, -1):
-                if regel[3 * x:3 * x + 3] != achtergrond:
-                    rechts = max(rechts, x + 1)
-                    break
-        return links, boven, rechts - links, onder - boven
+        for begin in range(0, lijn * self.hoogte, lijn):
+            regel = self.rgb[begin:begin + lijn]
+            if regel == leeg:
+                continue
+            anders = [x for x in range(self.breedte) if regel[3 * x:3 * x + 3] != leeg[:3]]
+            links, rechts = min(links, anders[0]), max(rechts, anders[-1] + 1)
+        return (links, rechts) if links < rechts else None
+
+    def vlak_van(self, kleur):
+        """The smallest area with every pixel of exactly this colour, or nothing."""
+        zoek, lijn = bytes(kleur), 3 * self.breedte
+        gevonden = []
+        for y in range(self.hoogte):
+            regel = self.rgb[y * lijn:(y + 1) * lijn]
+            if zoek not in regel:
+                continue
+            kolommen = [x for x in range(self.breedte) if regel[3 * x:3 * x + 3] == zoek]
+            if kolommen:
+                gevonden.append((y, kolommen[0], kolommen[-1]))
+        if not gevonden:
+            return None
+        links, rechts = min(g[1] for g in gevonden), max(g[2] for g in gevonden)
+        return links, gevonden[0][0], rechts - links + 1, gevonden[-1][0] - gevonden[0][0] + 1
 
     def bewaar(self, pad):
         subprocess.run(["convert", "-size", f"{self.breedte}x{self.hoogte}", "-depth", "8", "rgb:-", "-strip",
@@ -108,11 +94,16 @@ class Beeld:
 
 
 def inktbreedte(tekst, punten):
-    """How many pixels wide the ink of a text is at this size (96 dpi), by another renderer than the program's."""
+    """How many pixels wide the ink of a text is at this size (96 dpi), by another renderer than the program's.
+
+    Measured ten times as large, so that fitting letters to pixels changes nothing.
+    """
+    if not tekst:
+        return 0
     uitvoer = subprocess.run(
-        ["convert", "-font", LETTERTYPE, "-density", "96", "-pointsize", str(punten), f"label:{tekst}", "-trim",
+        ["convert", "-font", LETTERTYPE, "-density", "960", "-pointsize", str(punten), f"label:{tekst}", "-trim",
          "-format", "%w", "info:"], check=True, capture_output=True, text=True).stdout
-    return int(uitvoer)
+    return int(uitvoer) / 10
 
 
 class Venster:
@@ -126,9 +117,12 @@ class Venster:
 
     def vlak(self):
         """Its inner area on the screen."""
-        regels = dict(regel.split("=") for regel in
-                      self.scherm.xdotool("getwindowgeometry", "--shell", self.nummer).split())
-        return int(regels["X"]), int(regels["Y"]), int(regels["WIDTH"]), int(regels["HEIGHT"])
+        uitvoer = self.scherm.roep("xwininfo", "-id", self.nummer)
+        namen = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
+        waarden = [re.search(rf"{naam}: +(-?\d+)", uitvoer) for naam in namen]
+        if None in waarden:
+            raise Anders(f"venster {self.nummer} is er niet meer")
+        return tuple(int(waarde[1]) for waarde in waarden)
 
     def activeer(self):
         self.scherm.xdotool("windowactivate", "--sync", self.nummer)

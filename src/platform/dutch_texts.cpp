@@ -83,7 +83,7 @@ constexpr std::array texts = std::to_array<Text>({
     {"&Green:", "&Groen:"},
     {"Bl&ue:", "Bla&uw:"},
     {"A&lpha channel:", "&Doorzichtigheid:"},
-    {"&HTML:", "H&TML:"},
+    {"&HTML:", "HT&ML:"},
     {"Select Color", "Kleur kiezen"},
     // Context menu of an input box
     {"&Undo", "&Ongedaan maken"},

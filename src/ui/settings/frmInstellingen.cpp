@@ -18,7 +18,6 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -164,7 +163,7 @@ void frmInstellingen::kies_kleur(KleurKnop& knop) {
 }
 
 frmInstellingen::Toegang& frmInstellingen::toegang(const QString& naam) {
-    return toegang_[besturing_index(utf8(naam))];
+    return toegang_.at(besturing_index(utf8(naam)));
 }
 
 QWidget* frmInstellingen::maak_weergave() {
@@ -278,6 +277,7 @@ QWidget* frmInstellingen::maak_excel() {
         raster->addWidget(lijst, i % rijen, kolom + 1);
     }
     raster->setColumnMinimumWidth(2, groepsafstand * 3);
+    raster->setColumnStretch(2, 1);
     raster->setColumnStretch(5, 1);
     indeling->addWidget(groep);
     indeling->addWidget(new QLabel("Een lege lijst betekent dat het veld niet in het werkblad staat."));
@@ -322,14 +322,8 @@ QWidget* frmInstellingen::maak_kleur(int index, const QString& omschrijving) {
 }
 
 QScrollBar* frmInstellingen::maak_grootte(const char* naam, QLabel& waarde_label) {
-    auto* balk = new QScrollBar(Qt::Horizontal);
+    auto* balk = new GrootteBalk;
     balk->setObjectName(naam);
-    balk->setRange(kleinste_tekstgrootte, grootste_tekstgrootte);
-    balk->setSingleStep(kleine_stap_tekstgrootte);
-    balk->setPageStep(grote_stap_tekstgrootte);
-    balk->setValue(begin_tekstgrootte);
-    balk->setFocusPolicy(Qt::StrongFocus);
-    balk->setInvertedControls(false); // right and up make it larger, not smaller
     balk->setMinimumSize(balklengte, balkhoogte);
     balk->installEventFilter(new WielMetFocus(balk));
     waarde_label.setNum(begin_tekstgrootte);

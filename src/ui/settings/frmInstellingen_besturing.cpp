@@ -23,6 +23,13 @@ class KolomToets : public QValidator {
     }
 };
 
+void teken_focus(QStylePainter& painter, const QWidget& besturing, int marge) {
+    QStyleOptionFocusRect focus;
+    focus.initFrom(&besturing);
+    focus.rect = besturing.rect().adjusted(marge, marge, -marge, -marge);
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+}
+
 } // namespace
 
 KleurKnop::KleurKnop(QWidget* parent) : QPushButton(parent) {
@@ -36,6 +43,7 @@ void KleurKnop::zet_kleur(std::optional<std::int32_t> kleur) {
     QPalette palet;
     if (kleur) palet.setColor(QPalette::Button, qt_colour(*kleur));
     setPalette(palet);
+    setAccessibleDescription(kleur ? qt_colour(*kleur).name() : QString());
 }
 
 QSize KleurKnop::sizeHint() const {
@@ -59,12 +67,23 @@ void KleurKnop::paintEvent(QPaintEvent* /*event*/) {
         painter.drawLine(staal.topLeft(), staal.bottomRight());
         painter.drawLine(staal.bottomLeft(), staal.topRight());
     }
-    if (hasFocus()) {
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        focus.rect = rect().adjusted(2, 2, -2, -2);
-        painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
-    }
+    if (hasFocus()) teken_focus(painter, *this, 2);
+}
+
+GrootteBalk::GrootteBalk(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
+    setRange(kleinste_tekstgrootte, grootste_tekstgrootte);
+    setSingleStep(kleine_stap_tekstgrootte);
+    setPageStep(grote_stap_tekstgrootte);
+    setValue(begin_tekstgrootte);
+    setFocusPolicy(Qt::StrongFocus);
+    setInvertedControls(false); // right and up make it larger, not smaller
+}
+
+void GrootteBalk::paintEvent(QPaintEvent* event) {
+    QScrollBar::paintEvent(event);
+    if (!hasFocus()) return;
+    QStylePainter painter(this);
+    teken_focus(painter, *this, 0);
 }
 
 KolomLijst::KolomLijst(QWidget* parent) : QComboBox(parent) {

@@ -1,8 +1,9 @@
-// The three controls of the settings dialog that the toolkit does not have.
+// The controls of the settings dialog that the toolkit does not have.
 #pragma once
 
 #include <QComboBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 #include <cstdint>
@@ -26,6 +27,15 @@ class KleurKnop : public QPushButton {
 
   private:
     std::optional<std::int32_t> kleur_;
+};
+
+// A text size in percent. Unlike the toolkit's bar it takes the focus and shows that it has it.
+class GrootteBalk : public QScrollBar {
+  public:
+    explicit GrootteBalk(QWidget* parent = nullptr);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 // The column letters; the box takes one of them or nothing, in capitals however they are typed.

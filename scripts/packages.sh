@@ -4,7 +4,7 @@
 # To build and run the program. The fonts give the display its metric equal of Arial.
 packages_run=(
     cmake ninja-build g++ pkgconf
-    qt6-base-dev libgl1-mesa-dev libzip-dev libexpat1-dev
+    qt6-base-dev libgl1-mesa-dev libzip-dev libexpat1-dev libssl-dev
     fonts-liberation
 )
 

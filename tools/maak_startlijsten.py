@@ -1,12 +1,15 @@
 #!/usr/bin/env python3
-"""Makes start lists in Excel workbooks. Needs python3-xlsxwriter.
+"""Makes start lists in Excel workbooks. Needs python3-xlsxwriter and openssl.
 
     tools/maak_startlijsten.py FOLDER             # the small ones for tests/data/excel
     tools/maak_startlijsten.py FOLDER --rijen N   # one start list of N rows and 12 columns, as .xlsx and as .xls
 """
+import base64
 import datetime
+import hashlib
 import pathlib
 import struct
+import subprocess
 import sys
 
 import xlsxwriter
@@ -17,6 +20,7 @@ COMBINATIES = [
     ("Daniël Müller", "Été d'Or", "Apollo", "Jazz", "vos", "merrie", 12, "Old.", "LR & PC Súdwest"),
     ("Ångström, Åsa", 'Prins "Blitz"', "Negro", "Ferro", "schimmel", "hengst", 7, "SWB", "RV Øresund"),
 ]
+WACHTWOORD_VAN_EXCEL = "VelvetSweatshop"  # Excel tries it before it asks
 GEMAAKT = datetime.datetime(2026, 11, 20)  # fixed, so that the same script gives the same file
 
 
@@ -92,35 +96,94 @@ def xls_stroom(rijen):
     return begin + bladen + tabel + blad
 
 
-def samengesteld_bestand(stroom):
-    """A compound file of 512-byte sectors with the one stream "Workbook": stream, directory, table of sectors."""
-    stroom += bytes(-len(stroom) % 512)
-    stroom = stroom.ljust(4096, b"\0")  # below that size it would belong in a table for small streams
+def samengesteld_bestand(stromen):
+    """A compound file of 512-byte sectors: the streams by name, then directory and table of sectors."""
     eind, vrij, tabelsector = 0xFFFFFFFE, 0xFFFFFFFF, 0xFFFFFFFD
-    sectoren = len(stroom) // 512
-    tabellen = 1
-    while tabellen * 128 < sectoren + 1 + tabellen:
-        tabellen += 1
-    keten = [*range(1, sectoren), eind, eind] + [tabelsector] * tabellen
-    keten += [vrij] * (tabellen * 128 - len(keten))
 
-    def ingang(naam, soort, kind, eerste, grootte):
+    def ingang(naam, soort, rechts, kind, eerste, grootte):
         wijd = (naam + "\0").encode("utf-16-le") if naam else b""
-        return struct.pack("<64sHBBIII16sIQQII", wijd, len(wijd), soort, 1, vrij, vrij, kind, b"", 0, 0, 0, eerste, grootte) + bytes(4)
+        vaste = struct.pack("<64sHBBIII16sIQQII", wijd, len(wijd), soort, 1, vrij, rechts, kind, b"", 0, 0, 0, eerste, grootte)
+        return vaste + bytes(4)
 
-    map_ = ingang("Root Entry", 5, 1, eind, 0) + ingang("Workbook", 2, vrij, 0, len(stroom))
-    map_ += 2 * ingang("", 0, vrij, 0, 0)
+    inhoud, keten, ingangen = b"", [], []
+    for nummer, (naam, stroom) in enumerate(stromen.items(), 1):
+        grootte = max(len(stroom), 4096)  # below that size a stream would belong in a table for small ones
+        stroom = stroom.ljust(grootte + -grootte % 512, b"\0")
+        eerste = len(keten)
+        keten += [*range(eerste + 1, eerste + len(stroom) // 512), eind]
+        ingangen.append(ingang(naam, 2, nummer + 1 if nummer < len(stromen) else vrij, vrij, eerste, grootte))
+        inhoud += stroom
+    map_ = ingang("Root Entry", 5, vrij, 1, eind, 0) + b"".join(ingangen) + (3 - len(ingangen)) * ingang("", 0, vrij, vrij, 0, 0)
+    plaats_map = len(keten)
+    tabellen = 1
+    while tabellen * 128 < plaats_map + 1 + tabellen:
+        tabellen += 1
+    keten += [eind] + [tabelsector] * tabellen
+    keten += [vrij] * (tabellen * 128 - len(keten))
     kop = struct.pack("<8s16sHHHHHHIIIIIIIIII", bytes.fromhex("d0cf11e0a1b11ae1"), b"", 0x3E, 3, 0xFFFE, 9, 6, 0, 0, 0,
-                      tabellen, sectoren, 0, 4096, eind, 0, eind, 0)
-    plaatsen = [sectoren + 1 + i for i in range(tabellen)]
-    kop += struct.pack("<109I", *plaatsen, *[vrij] * (109 - tabellen))
-    return kop + stroom + map_ + struct.pack(f"<{len(keten)}I", *keten)
+                      tabellen, plaats_map, 0, 4096, eind, 0, eind, 0)
+    kop += struct.pack("<109I", *(plaats_map + 1 + i for i in range(tabellen)), *[vrij] * (109 - tabellen))
+    return kop + inhoud + map_ + struct.pack(f"<{len(keten)}I", *keten)
+
+
+def aes(sleutel, begin, klaar):
+    """AES in chained blocks, or in single ones without `begin`; `klaar` is a number of whole blocks."""
+    soort = f"-aes-{len(sleutel) * 8}-" + ("cbc" if begin else "ecb")
+    opdracht = ["openssl", "enc", soort, "-nopad", "-K", sleutel.hex(), *(["-iv", begin.hex()] if begin else [])]
+    return subprocess.run(opdracht, input=klaar, capture_output=True, check=True).stdout
+
+
+def heel(bytes_):
+    return bytes_ + bytes(-len(bytes_) % 16)
+
+
+def wachtwoord_hash(soort, zout, wachtwoord, keren):
+    waarde = hashlib.new(soort, zout + wachtwoord.encode("utf-16-le")).digest()
+    for keer in range(keren):
+        waarde = hashlib.new(soort, struct.pack("<I", keer) + waarde).digest()
+    return waarde
+
+
+def gewoon_vergrendeld(pakket, wachtwoord):
+    """Locked as Excel 2007 does it."""
+    zout, proef = bytes(range(16)), bytes(range(100, 116))
+    waarde = wachtwoord_hash("sha1", zout, wachtwoord, 50000)
+    waarde = hashlib.sha1(waarde + struct.pack("<I", 0)).digest()
+    kussen = bytes(0x36 ^ (waarde[i] if i < 20 else 0) for i in range(64))
+    sleutel = hashlib.sha1(kussen).digest()[:16]
+    csp = "Microsoft Enhanced RSA and AES Cryptographic Provider\0".encode("utf-16-le")
+    kop = struct.pack("<IIIIIIII", 0x24, 0, 0x660E, 0x8004, 128, 0x18, 0, 0) + csp
+    info = struct.pack("<HHII", 3, 2, 0x24, len(kop)) + kop
+    info += struct.pack("<I", 16) + zout + aes(sleutel, None, proef)
+    info += struct.pack("<I", 20) + aes(sleutel, None, heel(hashlib.sha1(proef).digest()))
+    return samengesteld_bestand({"EncryptionInfo": info,
+                                 "EncryptedPackage": struct.pack("<Q", len(pakket)) + aes(sleutel, None, heel(pakket))})
+
+
+def lenig_vergrendeld(pakket, wachtwoord):
+    """Locked as Excel 2013 does it."""
+    zout, zout_data, proef, sleutel = bytes(range(16)), bytes(range(50, 66)), bytes(range(100, 116)), bytes(range(200, 232))
+    waarde = wachtwoord_hash("sha512", zout, wachtwoord, 1000)
+
+    def vergrendeld(doel, klaar):
+        afgeleid = hashlib.sha512(waarde + bytes.fromhex(doel)).digest()[:32]
+        return base64.b64encode(aes(afgeleid, zout, heel(klaar))).decode()
+
+    soort = 'blockSize="16" keyBits="256" hashSize="64" cipherAlgorithm="AES" cipherChaining="ChainingModeCBC" hashAlgorithm="SHA512"'
+    xml = f"""<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
+<encryption xmlns="http://schemas.microsoft.com/office/2006/encryption" xmlns:p="http://schemas.microsoft.com/office/2006/keyEncryptor/password"><keyData saltSize="16" {soort} saltValue="{base64.b64encode(zout_data).decode()}"/><keyEncryptors><keyEncryptor uri="http://schemas.microsoft.com/office/2006/keyEncryptor/password"><p:encryptedKey spinCount="1000" saltSize="16" {soort} saltValue="{base64.b64encode(zout).decode()}" encryptedVerifierHashInput="{vergrendeld("fea7d2763b4b9e79", proef)}" encryptedVerifierHashValue="{vergrendeld("d7aa0f6d3061344e", hashlib.sha512(proef).digest())}" encryptedKeyValue="{vergrendeld("146e0be7abacd0d6", sleutel)}"/></keyEncryptor></keyEncryptors></encryption>"""
+    stukken = b""
+    for nummer, plaats in enumerate(range(0, len(pakket), 4096)):
+        begin = hashlib.sha512(zout_data + struct.pack("<I", nummer)).digest()[:16]
+        stukken += aes(sleutel, begin, heel(pakket[plaats:plaats + 4096]))
+    info = struct.pack("<HHI", 4, 4, 0x40) + xml.encode().ljust(4096)
+    return samengesteld_bestand({"EncryptionInfo": info, "EncryptedPackage": struct.pack("<Q", len(pakket)) + stukken})
 
 
 def klein(map_):
     boek = werkmap(map_ / "startlijst.xlsx")
     startlijst(boek, len(COMBINATIES))
-    (map_ / "startlijst.xls").write_bytes(samengesteld_bestand(xls_stroom(list(rijen_van(len(COMBINATIES))))))
+    (map_ / "startlijst.xls").write_bytes(samengesteld_bestand({"Workbook": xls_stroom(list(rijen_van(len(COMBINATIES))))}))
     tweede = boek.add_worksheet("Uitslag")
     datum = boek.add_format({"num_format": 14})
     procent = boek.add_format({"num_format": "0.0%"})
@@ -138,6 +201,12 @@ def klein(map_):
     boek.add_chartsheet("Grafiek").set_chart(grafiek)
     boek.add_worksheet("Leeg")
     boek.close()
+
+    pakket = (map_ / "startlijst.xlsx").read_bytes()
+    (map_ / "vergrendeld_2007.xlsx").write_bytes(gewoon_vergrendeld(pakket, WACHTWOORD_VAN_EXCEL))
+    (map_ / "vergrendeld_2013.xlsx").write_bytes(lenig_vergrendeld(pakket, WACHTWOORD_VAN_EXCEL))
+    (map_ / "geheim_2007.xlsx").write_bytes(gewoon_vergrendeld(pakket, "geheim"))
+    (map_ / "geheim_2013.xlsx").write_bytes(lenig_vergrendeld(pakket, "geheim"))
 
     boek = werkmap(map_ / "leeg.xlsx")
     boek.add_worksheet()
@@ -159,7 +228,7 @@ def main():
         boek = werkmap(map_ / f"startlijst_{aantal}.xlsx")
         startlijst(boek, aantal - 1)
         boek.close()
-        (map_ / f"startlijst_{aantal}.xls").write_bytes(samengesteld_bestand(xls_stroom(list(rijen_van(aantal - 1)))))
+        (map_ / f"startlijst_{aantal}.xls").write_bytes(samengesteld_bestand({"Workbook": xls_stroom(list(rijen_van(aantal - 1)))}))
     else:
         klein(map_)
 

@@ -1,5 +1,7 @@
 #include "excel/open_workbook.h"
 
+#include "excel/xlsx/locked_package.h"
+
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -46,7 +48,11 @@ std::expected<std::unique_ptr<Workbook>, OpenFailure> open_workbook(std::string_
 
 std::expected<std::unique_ptr<Workbook>, OpenFailure> open_workbook(std::vector<std::byte> bytes) {
     if (bytes.empty()) return std::unexpected(OpenFailure::damaged);
-    return begins_as_zip(bytes) ? open_xlsx(std::move(bytes)) : open_xls(std::move(bytes));
+    if (begins_as_zip(bytes)) return open_xlsx(std::move(bytes));
+    auto package = unlocked_package(bytes);
+    if (package) return open_xlsx(std::move(*package));
+    if (package.error() != OpenFailure::not_a_workbook) return std::unexpected(package.error());
+    return open_xls(std::move(bytes));
 }
 
 std::string_view sentence_of(OpenFailure failure) {

@@ -225,4 +225,13 @@ std::expected<std::vector<std::byte>, CompoundFailure> workbook_stream(ByteSpan 
     return std::unexpected(CompoundFailure::no_workbook);
 }
 
+std::vector<std::byte> stream_named(ByteSpan file, std::u16string_view name) {
+    if (!has_signature(file)) return {};
+    CompoundFile compound(file);
+    if (!compound.open()) return {};
+    const std::vector<const Entry*> candidates = compound.named({name});
+    if (candidates.empty()) return {};
+    return compound.read(*candidates.front(), compound.sectors_of(*candidates.front()));
+}
+
 } // namespace tavelo

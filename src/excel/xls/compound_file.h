@@ -4,6 +4,7 @@
 #include "excel/xls/biff_stream.h"
 
 #include <expected>
+#include <string_view>
 #include <vector>
 
 namespace tavelo {
@@ -14,5 +15,8 @@ enum class CompoundFailure : std::uint8_t { not_compound, no_workbook, encrypted
 // too: the stream is also found when the tree of the directory is broken, and a chain of sectors that is cut off, or
 // that comes back to a sector, gives what is before that. Never larger than the file.
 [[nodiscard]] std::expected<std::vector<std::byte>, CompoundFailure> workbook_stream(ByteSpan file);
+
+// The stream with this name in small letters; empty when there is none or the file is no compound file.
+[[nodiscard]] std::vector<std::byte> stream_named(ByteSpan file, std::u16string_view name);
 
 } // namespace tavelo

@@ -34,36 +34,42 @@ std::optional<Number> number_in(std::string_view text) {
     return value;
 }
 
-struct Reading {
-    XML_Parser parser;
-    XmlHandler& handler;
-    unsigned depth = 0;
-    bool refused = false;
+struct FreeParser {
+    void operator()(std::remove_pointer_t<XML_Parser>* parser) const { XML_ParserFree(parser); }
+};
 
-    void refuse() {
-        refused = true;
-        XML_StopParser(parser, XML_FALSE);
-    }
+// One part on its way through expat.
+class Reading {
+  public:
+    explicit Reading(XmlHandler& handler);
+
+    // False when the reading has ended, for whatever reason.
+    bool feed(std::span<const char> chunk);
+    std::expected<void, OpenFailure> finish();
+
+    void start(const XML_Char* name, const XML_Char** attributes);
+    void end(const XML_Char* name);
+    void text(std::string_view piece) { handler_.text(piece); }
+    void refuse();
+
+  private:
+    std::unique_ptr<std::remove_pointer_t<XML_Parser>, FreeParser> parser_;
+    XmlHandler& handler_;
+    XML_Index fed_ = 0;
+    unsigned depth_ = 0;
+    bool well_formed_ = true;
 };
 
 Reading& reading_of(void* user_data) { return *static_cast<Reading*>(user_data); }
 
 void XMLCALL on_start(void* user_data, const XML_Char* name, const XML_Char** attributes) {
-    Reading& reading = reading_of(user_data);
-    if (++reading.depth > deepest_level) return reading.refuse();
-    reading.handler.element_start(local_name(name), reading.depth, XmlAttributes(attributes));
-    if (reading.handler.stopped()) XML_StopParser(reading.parser, XML_FALSE);
+    reading_of(user_data).start(name, attributes);
 }
 
-void XMLCALL on_end(void* user_data, const XML_Char* name) {
-    Reading& reading = reading_of(user_data);
-    reading.handler.element_end(local_name(name), reading.depth);
-    --reading.depth;
-    if (reading.handler.stopped()) XML_StopParser(reading.parser, XML_FALSE);
-}
+void XMLCALL on_end(void* user_data, const XML_Char* name) { reading_of(user_data).end(name); }
 
 void XMLCALL on_text(void* user_data, const XML_Char* text, int length) {
-    reading_of(user_data).handler.text(std::string_view(text, static_cast<std::size_t>(length)));
+    reading_of(user_data).text(std::string_view(text, static_cast<std::size_t>(length)));
 }
 
 void XMLCALL on_doctype(void* user_data, const XML_Char*, const XML_Char*, const XML_Char*, int) {
@@ -84,9 +90,44 @@ int XMLCALL on_unknown_encoding(void*, const XML_Char* name, XML_Encoding* encod
     return XML_STATUS_OK;
 }
 
-struct FreeParser {
-    void operator()(std::remove_pointer_t<XML_Parser>* parser) const { XML_ParserFree(parser); }
-};
+Reading::Reading(XmlHandler& handler) : parser_(XML_ParserCreate(nullptr)), handler_(handler) {
+    if (!parser_) return;
+    XML_SetUserData(parser_.get(), this);
+    XML_SetElementHandler(parser_.get(), on_start, on_end);
+    XML_SetCharacterDataHandler(parser_.get(), on_text);
+    XML_SetUnknownEncodingHandler(parser_.get(), on_unknown_encoding, nullptr);
+    XML_SetStartDoctypeDeclHandler(parser_.get(), on_doctype);
+}
+
+bool Reading::feed(std::span<const char> chunk) {
+    if (!parser_ || !well_formed_) return false;
+    well_formed_ = XML_Parse(parser_.get(), chunk.data(), static_cast<int>(chunk.size()), XML_FALSE) == XML_STATUS_OK;
+    fed_ += static_cast<XML_Index>(chunk.size());
+    if (well_formed_ && fed_ - XML_GetCurrentByteIndex(parser_.get()) > longest_tag) well_formed_ = false;
+    return well_formed_;
+}
+
+std::expected<void, OpenFailure> Reading::finish() {
+    if (!parser_) return std::unexpected(OpenFailure::unreadable);
+    if (well_formed_) well_formed_ = XML_Parse(parser_.get(), nullptr, 0, XML_TRUE) == XML_STATUS_OK;
+    if (const auto why = handler_.stopped()) return std::unexpected(*why);
+    if (!well_formed_) return std::unexpected(OpenFailure::damaged);
+    return {};
+}
+
+void Reading::start(const XML_Char* name, const XML_Char** attributes) {
+    if (++depth_ > deepest_level) return refuse();
+    handler_.element_start(local_name(name), depth_, XmlAttributes(attributes));
+    if (handler_.stopped()) refuse();
+}
+
+void Reading::end(const XML_Char* name) {
+    handler_.element_end(local_name(name), depth_--);
+    if (handler_.stopped()) refuse();
+}
+
+// expat then answers an error to whoever fed it.
+void Reading::refuse() { XML_StopParser(parser_.get(), XML_FALSE); }
 
 } // namespace
 
@@ -124,29 +165,18 @@ bool XmlAttributes::is_true(std::string_view name) const {
 
 std::expected<void, OpenFailure> read_xml(const Package& package, std::string_view part, std::uint64_t limit,
                                           XmlHandler& handler) {
-    const std::unique_ptr<std::remove_pointer_t<XML_Parser>, FreeParser> parser(XML_ParserCreate(nullptr));
-    if (!parser) return std::unexpected(OpenFailure::unreadable);
-    Reading reading{parser.get(), handler};
-    XML_SetUserData(parser.get(), &reading);
-    XML_SetElementHandler(parser.get(), on_start, on_end);
-    XML_SetCharacterDataHandler(parser.get(), on_text);
-    XML_SetUnknownEncodingHandler(parser.get(), on_unknown_encoding, nullptr);
-    XML_SetStartDoctypeDeclHandler(parser.get(), on_doctype);
-
-    XML_Index fed = 0;
-    bool well_formed = true;
-    const auto unpacked = package.read(part, limit, [&](std::span<const char> chunk) {
-        well_formed = XML_Parse(parser.get(), chunk.data(), static_cast<int>(chunk.size()), XML_FALSE) == XML_STATUS_OK;
-        fed += static_cast<XML_Index>(chunk.size());
-        if (well_formed && fed - XML_GetCurrentByteIndex(parser.get()) > longest_tag) well_formed = false;
-        return well_formed;
-    });
-    if (const auto why = handler.stopped()) return std::unexpected(*why);
+    Reading reading(handler);
+    const auto unpacked = package.read(part, limit, [&](std::span<const char> chunk) { return reading.feed(chunk); });
     if (!unpacked) return unpacked;
-    if (well_formed) well_formed = XML_Parse(parser.get(), nullptr, 0, XML_TRUE) == XML_STATUS_OK;
-    if (const auto why = handler.stopped()) return std::unexpected(*why);
-    if (!well_formed || reading.refused) return std::unexpected(OpenFailure::damaged);
-    return {};
+    return reading.finish();
+}
+
+std::expected<void, OpenFailure> read_xml(std::string_view text, XmlHandler& handler) {
+    Reading reading(handler);
+    constexpr std::size_t step = 64 * 1024;
+    for (std::size_t place = 0; place < text.size() && reading.feed(text.substr(place, step)); place += step) {
+    }
+    return reading.finish();
 }
 
 } // namespace tavelo

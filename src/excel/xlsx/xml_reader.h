@@ -49,6 +49,9 @@ class XmlHandler {
 [[nodiscard]] std::expected<void, OpenFailure> read_xml(const Package& package, std::string_view part,
                                                         std::uint64_t limit, XmlHandler& handler);
 
+// The same for a part that is in memory already.
+[[nodiscard]] std::expected<void, OpenFailure> read_xml(std::string_view text, XmlHandler& handler);
+
 // White space as XML knows it taken off both ends: space, tab, line end.
 [[nodiscard]] std::string_view trim_xml_space(std::string_view text);
 

@@ -1,7 +1,7 @@
-// Opens the bytes as an .xlsx workbook, reads its sheets and renders every text; whatever the bytes are, every index in
-// the answer must hold. Bytes that are no zip are taken for the parts themselves, separated by a zero byte: a mutation
-// inside a packed part would seldom come through its checksum.
-#include "excel/book/workbook.h"
+// Opens the bytes as an .xlsx workbook, locked or not, reads its sheets and renders every text; whatever the bytes are,
+// every index in the answer must hold. Bytes that are neither are taken for the parts themselves, separated by a zero
+// byte: a mutation inside a packed part would seldom come through its checksum.
+#include "excel/open_workbook.h"
 #include "excel/sheet_csv.h"
 #include "excel/text/locale.h"
 #include "excel/xlsx/xlsx_maker.h"
@@ -56,9 +56,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<std::byte> bytes(size);
     if (size > 0) std::memcpy(bytes.data(), data, size);
     const bool is_zip = size >= 2 && data[0] == 'P' && data[1] == 'K';
-    if (!is_zip) bytes = zip_of_parts({reinterpret_cast<const char*>(data), size});
+    const bool is_compound_file = size >= 2 && data[0] == 0xD0 && data[1] == 0xCF;
+    if (!is_zip && !is_compound_file) bytes = zip_of_parts({reinterpret_cast<const char*>(data), size});
 
-    const auto workbook = tavelo::open_xlsx(std::move(bytes));
+    const auto workbook = tavelo::open_workbook(std::move(bytes));
     if (!workbook) return 0;
     for (std::size_t i = 0; i < std::min(most_sheets, (*workbook)->sheets().size()); ++i) {
         const auto sheet = (*workbook)->read_sheet(i);

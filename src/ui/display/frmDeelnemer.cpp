@@ -143,9 +143,14 @@ void frmDeelnemer::keer_terug(const Schermvlak& eigen_scherm) {
 
 // A window that fills a screen does not move, so it leaves full screen first.
 void frmDeelnemer::verhuis(const Schermvlak& plaats, bool daarna_beeldvullend) {
+    const bool operateur_typt = eigenaar_.isActiveWindow();
     if (beeldvullend()) zet_beeldvullend(false, deelnemer_bijschrift);
     verplaats(plaats);
     if (daarna_beeldvullend) zet_beeldvullend(true, deelnemer_bijschrift);
+    if (operateur_typt) {
+        eigenaar_.activateWindow();
+        raise();
+    }
 }
 
 void frmDeelnemer::resizeEvent(QResizeEvent* /*event*/) {

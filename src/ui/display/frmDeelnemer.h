@@ -61,7 +61,7 @@ class frmDeelnemer final : public QWidget {
 
     Programma& programma_;
     std::function<void()> stel_samen_;
-    const QWidget& eigenaar_;
+    QWidget& eigenaar_;
     const QWidget& nummervak_;
     VertoningWidget picDeelnemer_;
     KeepAwake wakker_;

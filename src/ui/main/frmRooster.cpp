@@ -91,6 +91,8 @@ class RoosterDelegate final : public QStyledItemDelegate {
         QStyledItemDelegate::initStyleOption(option, index);
         option->state &= ~QStyle::State_HasFocus; // the whole row is current, not one cell
         if (index.column() == 0) option->backgroundBrush = option->palette.button();
+        // Short codes, which fill their narrow columns to the edge.
+        if (option->displayAlignment & Qt::AlignHCenter) option->textElideMode = Qt::ElideNone;
     }
 };
 

@@ -291,7 +291,11 @@ void frmTavelo::toon_intro() { omgeving_.toon_intro(); }
 
 void frmTavelo::toon_venster() {
     ontwerp_plaatsen();
-    if (const QScreen* scherm = screen()) resize(venstermaat.boundedTo(scherm->availableGeometry().size() * 0.96));
+    if (const QScreen* scherm = screen()) {
+        const QRect vrij = scherm->availableGeometry();
+        resize(venstermaat.boundedTo(vrij.size() * 0.96));
+        move(vrij.topLeft() + QPoint(marge, marge)); // leaves room for a participant window on the same screen
+    }
     toon();
     show();
     txtINR_->setFocus();

@@ -1,7 +1,7 @@
 #include "excel/sheet_box.h"
 
 #include <algorithm>
-#include <tuple>
+#include <utility>
 
 namespace tavelo {
 

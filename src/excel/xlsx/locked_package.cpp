@@ -1,6 +1,5 @@
-// Two ways of locking, both described in Microsoft's open specification MS-OFFCRYPTO: "standard" of Excel 2007 (AES in
-// single blocks under a key by SHA-1) and "agile" of later versions (AES in chained blocks, everything named in a piece
-// of XML).
+// Microsoft describes two ways of locking in MS-OFFCRYPTO: "standard" of Excel 2007 (AES in single blocks under a key
+// by SHA-1) and "agile" of later versions (AES in chained blocks, everything named in a piece of XML).
 #include "excel/xlsx/locked_package.h"
 
 #include "excel/xls/compound_file.h"

@@ -10,7 +10,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <tuple>
 #include <utility>
 
 namespace tavelo {

@@ -322,6 +322,14 @@ TEST_F(BenodigdeHoogte, de_band_telt_voor_twee_van_zijn_eigen_regels_ook_als_hij
     EXPECT_EQ(regels(), 2);
 }
 
+TEST_F(BenodigdeHoogte, de_band_telt_voor_precies_twee_regels_al_is_hij_hoger) {
+    instelling.showrubric = 1;
+    vlak.hoogte = 1550; // 1472 to fill
+    toon();
+    EXPECT_EQ(vlak.punten(), 32);
+    EXPECT_DOUBLE_EQ(band.hoogte, 1619.2);
+}
+
 TEST_F(BenodigdeHoogte, wat_precies_past_krimpt_niet) {
     instelling.showridername = 1;
     vlak.hoogte = 774.5; // 774 whole twips, and 735 to fill
@@ -621,6 +629,17 @@ TEST_F(ToonCombinatie, de_naam_staat_er_ook_zonder_andere_regels) {
     EXPECT_EQ(teksten(vlak), Teksten{"Jan"});
     toon(12, 1, "");
     EXPECT_TRUE(vlak.regels().empty());
+}
+
+TEST_F(ToonCombinatie, de_naam_staat_onder_de_laatste_regel_ook_met_een_leeg_nummervak) {
+    open_werkblad(); // its rows have no number
+    instelling.showridername = 1;
+    programma.txtINR = "";
+    toon(0, 1, "naam");
+    EXPECT_EQ(vlak.regels().at(1).y, 736);
+    instelling.showrubric = 1;
+    toon(0, 1, "naam");
+    EXPECT_DOUBLE_EQ(vlak.regels().at(1).y, 1619.2 + 736);
 }
 
 TEST_F(ToonCombinatie, de_naam_telt_niet_mee_voor_de_hoogte) {

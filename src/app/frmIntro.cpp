@@ -206,6 +206,7 @@ frmIntro::frmIntro(QWidget* parent) : QDialog(parent, Qt::Dialog | Qt::Frameless
     setObjectName(QStringLiteral("frmIntro"));
     setWindowTitle(QStringLiteral("Tavelo"));
     setFixedSize(maat());
+    setAttribute(Qt::WA_QuitOnClose, false); // the first window to go, but not the end
     zet_transparantie(*this, 0);
 
     auto* picture = new Image1(this);

@@ -28,9 +28,24 @@ namespace {
 // In device-independent pixels.
 constexpr int marge = 8;
 constexpr int paneelhoogte = 84;
-constexpr int gridbreedte = 784;      // all columns and the scroll bar
-constexpr int gridbreedte_smal = 570; // on a small screen the last columns are reached by scrolling
+// Widths on a screen with room, and on a small one, where the last columns of the grid are reached by scrolling.
+struct Breedten {
+    int grid; // with room: all columns and the scroll bar
+    int nummervak;
+    int bladerknop;
+    int slotknop;
+    int snelknop;
+    double nummerlabel; // its letter, relative to that of the desktop
+};
+constexpr Breedten ruim{784, 140, 70, 78, 48, 1.3};
+constexpr Breedten krap{570, 110, 60, 66, 40, 1};
 constexpr int ruim_scherm = 1200;
+
+const Breedten& breedten(const QWidget& venster) {
+    const QScreen* scherm = venster.screen();
+    return scherm && scherm->availableGeometry().width() < ruim_scherm ? krap : ruim;
+}
+
 constexpr QSize venstermaat(1240, 760);
 
 constexpr int hele_klik = 120; // a notch of the wheel, in eighths of a degree
@@ -57,6 +72,17 @@ QToolButton* maak_knop(QWidget* ouder, const QString& naam, const QString& toega
     knop->setFocusPolicy(Qt::TabFocus); // a click leaves the focus in the number box
     knop->setIconSize(QSize(32, 32));
     return knop;
+}
+
+// A screen reader hears what the text is about as well.
+void toon_tekst(QLabel& label, const QString& kop, std::string_view tekst) {
+    label.setText(qt_text(tekst));
+    label.setAccessibleName(kop + QStringLiteral(": ") + qt_text(tekst));
+}
+
+// Wider where the letter of the desktop asks for it.
+void zet_maat(QToolButton& knop, int breedte) {
+    knop.setFixedSize(std::max(breedte, knop.sizeHint().width()), paneelhoogte);
 }
 
 } // namespace
@@ -114,7 +140,6 @@ void frmTavelo::bouw_bediening() {
 
     lblRoosterOmschrijving_ = new ElidedLabel(vlak_);
     lblRoosterOmschrijving_->setObjectName(QStringLiteral("lblRoosterOmschrijving"));
-    lblRoosterOmschrijving_->setAccessibleName(QStringLiteral("Omschrijving van het rooster"));
     lblRoosterOmschrijving_->setAutoFillBackground(true);
     lblRoosterOmschrijving_->setMargin(4);
     QFont vet = font();
@@ -139,7 +164,7 @@ void frmTavelo::bouw_nummervak(QHBoxLayout& rij) {
     auto* label = new QLabel(QStringLiteral("&Nummer:"), paneel_);
     label->setObjectName(QStringLiteral("lblNummer"));
     QFont letter = label->font();
-    letter.setPointSizeF(letter.pointSizeF() * 1.3);
+    letter.setPointSizeF(letter.pointSizeF() * breedten(*this).nummerlabel);
     label->setFont(letter);
     txtINR_ = new QLineEdit(paneel_);
     txtINR_->setObjectName(QStringLiteral("txtINR"));
@@ -150,7 +175,7 @@ void frmTavelo::bouw_nummervak(QHBoxLayout& rij) {
     groot.setPixelSize(48);
     groot.setBold(true);
     txtINR_->setFont(groot);
-    txtINR_->setFixedSize(140, paneelhoogte);
+    txtINR_->setFixedSize(breedten(*this).nummervak, paneelhoogte);
     label->setBuddy(txtINR_);
     rij.addWidget(label);
     rij.addWidget(txtINR_);
@@ -177,7 +202,7 @@ void frmTavelo::bouw_bladerknoppen(QHBoxLayout& rij) {
         knop->setText(QString::fromUtf8(ontwerp[i].tekst));
         knop->setIcon(icon(ontwerp[i].plaatje));
         knop->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-        knop->setFixedSize(70, paneelhoogte);
+        zet_maat(*knop, breedten(*this).bladerknop);
         const Blader richting = ontwerp[i].richting;
         connect(knop, &QToolButton::clicked, this, [this, richting] { druk_blader(richting); });
         rij.addWidget(knop);
@@ -192,7 +217,7 @@ void frmTavelo::bouw_slotknoppen(QHBoxLayout& rij) {
                                       QStringLiteral("Rooster %1").arg(slot + 1), QString());
         knop->setText(QStringLiteral("Rooster &%1").arg(slot + 1));
         knop->setCheckable(true);
-        knop->setFixedSize(78, paneelhoogte);
+        zet_maat(*knop, breedten(*this).slotknop);
         knop->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(knop, &QToolButton::clicked, this, [this, slot] { druk_slot(slot, Muisknop::links); });
         connect(knop, &QToolButton::customContextMenuRequested, this,
@@ -207,7 +232,7 @@ void frmTavelo::bouw_snelknoppen(QHBoxLayout& rij) {
                           void (frmTavelo::*gedrukt)()) {
         QToolButton* knop = maak_knop(paneel_, genummerd(QStringLiteral("btnFast"), i), naam, uitleg);
         knop->setIcon(icon(plaatje));
-        knop->setFixedSize(48, paneelhoogte);
+        zet_maat(*knop, breedten(*this).snelknop);
         connect(knop, &QToolButton::clicked, this, gedrukt);
         rij.addWidget(knop);
         btnFast_[i] = knop;
@@ -249,9 +274,8 @@ void frmTavelo::bouw_details() {
         kop->setGeometry(marge, y, kopbreedte, regel);
         auto* label = new ElidedLabel(frameRoosterinstellingen_);
         label->setObjectName(QString::fromUtf8(o.naam));
-        label->setAccessibleName(QString::fromUtf8(o.kop));
         label->setGeometry(pixels(label_links_), y, 100, regel);
-        details_.push_back({label, o.tekst});
+        details_.push_back({label, QString::fromUtf8(o.kop), o.tekst});
         y += regel;
     }
     QFont vet = font();
@@ -274,17 +298,15 @@ void frmTavelo::zet_tabvolgorde() {
 
 // The places before the resize rules move them.
 void frmTavelo::ontwerp_plaatsen() {
-    const QScreen* scherm = screen();
-    const bool ruim = !scherm || scherm->availableGeometry().width() >= ruim_scherm;
-    const int breedte = ruim ? gridbreedte : gridbreedte_smal;
-    const int rechts = marge + breedte + marge;
+    const int breedte = breedten(*this).grid;
+    const int paneelbreedte = std::max(breedte, paneel_->sizeHint().width());
     const int kop = std::max(frameRoosterinstellingen_->height(), paneelhoogte + marge + fontMetrics().height() + 8);
-    paneel_->setGeometry(marge, marge, std::max(breedte, paneel_->sizeHint().width()), paneelhoogte);
+    paneel_->setGeometry(marge, marge, paneelbreedte, paneelhoogte);
     const int omschrijving = marge + paneelhoogte + marge;
     lblRoosterOmschrijving_->setGeometry(marge, omschrijving, breedte, marge + kop - omschrijving);
     ontwerp_.grdRooster = twipsvlak({marge, marge + kop + marge, breedte, 100});
-    ontwerp_.frameRoosterinstellingen = twipsvlak({rechts, marge, 100, kop});
-    ontwerp_.picDeelnemer = twipsvlak({rechts, marge + kop + marge, 100, 100});
+    ontwerp_.frameRoosterinstellingen = twipsvlak({marge + paneelbreedte + marge, marge, 100, kop});
+    ontwerp_.picDeelnemer = twipsvlak({marge + breedte + marge, marge + kop + marge, 100, 100});
 }
 
 void frmTavelo::toon_intro() { omgeving_.toon_intro(); }
@@ -305,7 +327,7 @@ void frmTavelo::toon_venster() {
 void frmTavelo::toon() {
     setWindowTitle(venstertitel(programma_.bijschrift));
     for (const Detail& detail : details_)
-        detail.label->setText(qt_text(programma_.labels.*detail.tekst));
+        toon_tekst(*detail.label, detail.kop, programma_.labels.*detail.tekst);
     toon_omschrijving();
     toon_slots();
     if (const QString tekst = qt_text(programma_.txtINR); txtINR_->text() != tekst) {
@@ -328,7 +350,7 @@ void frmTavelo::toon_omschrijving() {
         kleuren.setColor(QPalette::WindowText, Qt::black);
     }
     lblRoosterOmschrijving_->setPalette(kleuren);
-    lblRoosterOmschrijving_->setText(qt_text(programma_.labels.lblRoosterOmschrijving));
+    toon_tekst(*lblRoosterOmschrijving_, QStringLiteral("Omschrijving"), programma_.labels.lblRoosterOmschrijving);
 }
 
 void frmTavelo::toon_slots() {
@@ -454,7 +476,9 @@ bool frmTavelo::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() != QEvent::Wheel) return QMainWindow::eventFilter(receiver, event);
     const auto* besturing = qobject_cast<QWidget*>(receiver);
     if (!besturing || besturing->window() != this) return QMainWindow::eventFilter(receiver, event);
-    muiswiel(static_cast<QWheelEvent&>(*event));
+    auto& draai = static_cast<QWheelEvent&>(*event);
+    if (draai.angleDelta().y() == 0) return QMainWindow::eventFilter(receiver, event); // sideways is the toolkit's
+    muiswiel(draai);
     event->accept();
     return true;
 }

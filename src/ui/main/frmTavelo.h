@@ -101,6 +101,7 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     QGroupBox* frameRoosterinstellingen_ = nullptr;
     struct Detail {
         ElidedLabel* label;
+        QString kop;
         std::string RubriekLabels::*tekst;
     };
     std::vector<Detail> details_;

@@ -127,6 +127,7 @@ TEST_F(FrmTavelo, een_geopend_rooster_staat_in_de_lijst_en_in_de_titel) {
     EXPECT_TRUE(venster->windowTitle().contains("proef.rst")) << utf8(venster->windowTitle());
     EXPECT_TRUE(vind("btnRooster_0").toolTip().contains("proef.rst"));
     EXPECT_EQ(vind<QLabel>("lblRoosterOmschrijving").text().toStdString(), programma.labels.lblRoosterOmschrijving);
+    EXPECT_EQ(vind("lblRingType").accessibleName().toStdString(), "Ringtype: " + programma.labels.lblRingType);
 }
 
 TEST_F(FrmTavelo, de_openknop_en_ctrl_o_vragen_om_een_bestand_voor_het_huidige_slot) {

@@ -73,7 +73,7 @@ struct Instelling {
 inline constexpr std::string_view instellingen_toepassing = "Vendalo 3.5 Deelnemer";
 
 // A number field takes the leading number of the text, rounded half to even; false and unchanged when it does not fit.
-bool zet_instelling(Instellingen& instellingen, const Instelling& instelling, std::string_view tekst);
+[[nodiscard]] bool zet_instelling(Instellingen& instellingen, const Instelling& instelling, std::string_view tekst);
 // Numbers as plain decimal text.
 [[nodiscard]] std::string instelling_tekst(const Instellingen& instellingen, const Instelling& instelling);
 

@@ -216,6 +216,19 @@ class Weergave(DumpTest):
         self.assertEqual((vlak["breedte"], vlak["hoogte"]), (19200, 10800))
         self.assertEqual([r["tekst"] for r in vlak["regels"]], ["Zoë", "Œil", "________", "Zoë"])
 
+    def test_zonder_vaste_maat_meten_de_letters_van_deze_computer(self):
+        gedaan = self.start(self.bestand, "--nummer", "12", "--instelling", "alignment=2")
+        if gedaan.returncode == 2:  # built without windows
+            self.assertEqual((gedaan.stdout, gedaan.stderr.decode("utf-8")),
+                             (b"", "Deze tavelo-dump meet geen lettertypen; geef --maat raster op.\n"))
+            return
+        self.assertEqual(gedaan.returncode, 0, gedaan.stderr)
+        regels = json.loads(gedaan.stdout.decode("utf-8"))["weergave"]["picDeelnemer"]["regels"]
+        self.assertEqual([(r["tekst"], r["punten"]) for r in regels],
+                         [("Jan", 32), ("Bles", 32), ("________", 32), ("Jan", 32)])
+        jan, bles, streep, naam = [r["x"] for r in regels]
+        self.assertTrue(0 < streep < bles < jan == naam < 19200, regels)  # set to the right, by their width
+
     def test_een_instelling_die_niet_past_blijft_zoals_zij_was(self):
         vlak = self.weergave(self.bestand, "--nummer", "3", "--instelling", "textsize=99999")["picDeelnemer"]
         self.assertEqual(vlak["regels"][0]["punten"], 32)
@@ -285,6 +298,17 @@ class Gebruik(DumpTest):
                         [bestand, "--breedte", "breed"], [bestand, "--hoogte", "-1"], [bestand, "--breedte", "1e999"],
                         [bestand, "--instelling", "textsize"], [bestand, "--instelling", "onbekend=1"]):
             self.weigert(*woorden)
+
+
+    @unittest.skipUnless(os.path.exists("/dev/full"), "no device that is always full")
+    def test_een_volle_schijf_is_een_zin(self):
+        bestand = self.schrijf("a.rst", rooster([3], {3: "na:Jan"}))
+        werkmap(self.map / "a.xlsx", {"Start": [["1"]]})
+        for woorden in ([bestand], ["--blad", "1", self.map / "a.xlsx"]):
+            with open("/dev/full", "wb") as vol:
+                gedaan = subprocess.run([DUMP, *woorden], stdout=vol, stderr=subprocess.PIPE, check=False, timeout=60)
+            self.assertEqual((gedaan.returncode, gedaan.stderr.decode("utf-8")),
+                             (1, "De uitvoer kan niet worden geschreven.\n"))
 
 
 class Voorbeelden(DumpTest):

@@ -23,7 +23,7 @@ namespace {
 
 using namespace tavelo;
 
-constexpr int cannot_open = 1;
+constexpr int no_output = 1; // the file cannot be opened, or what it holds cannot be written
 constexpr int wrong_use = 2;
 
 struct Vraag {
@@ -90,19 +90,25 @@ std::optional<Vraag> lees_vraag(std::span<char*> woorden) {
     return vraag;
 }
 
+int sluit_uitvoer() {
+    if (std::cout.flush()) return 0;
+    std::cerr << "De uitvoer kan niet worden geschreven.\n";
+    return no_output;
+}
+
 int dump_blad(std::string_view bestand, std::size_t blad, std::string_view land) {
     const auto workbook = open_workbook(bestand);
     if (!workbook) {
         std::cerr << sentence_of(workbook.error()) << '\n';
-        return cannot_open;
+        return no_output;
     }
     const auto csv = blad_als_csv(**workbook, blad, locale_named(land));
     if (!csv) {
         std::cerr << sentence_of(csv.error()) << '\n';
-        return cannot_open;
+        return no_output;
     }
     std::cout.write(csv->data(), static_cast<std::streamsize>(csv->size()));
-    return std::cout.flush() ? 0 : cannot_open;
+    return sluit_uitvoer();
 }
 
 int toon_gebruik() {
@@ -127,5 +133,5 @@ int main(int aantal, char** woorden) {
         return wrong_use;
     }
     const std::unique_ptr<ExcelApplication> excel = builtin_excel(locale_named(vraag->land));
-    return dump_rooster(vraag->rooster, *meter, *excel, std::cout) ? 0 : toon_gebruik();
+    return dump_rooster(vraag->rooster, *meter, *excel, std::cout) ? sluit_uitvoer() : toon_gebruik();
 }

@@ -8,6 +8,7 @@
 #include "vocabulary/klassen.h"
 #include "vocabulary/rubriek_woorden.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <optional>

@@ -1,17 +1,13 @@
 // Composing and painting the public display on a 3840 x 2160 screen, against painting the same texts in the same fonts
 // without composing anything.
-#include "stil.h"
+#include "programma.h"
 #include "verhouding.h"
 
-#include "app/instellingen.h"
-#include "basis/number.h"
-#include "platform/fonts.h"
+#include "platform/application.h"
 #include "platform/qt_text.h"
-#include "schedule/record/kolommen.h"
 #include "ui/display/codeOpmaak.h"
 #include "ui/display/frmTekenvlak.h"
 
-#include <QApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -19,51 +15,29 @@ namespace {
 
 using namespace tavelo;
 
-class LegeOpslag : public SettingsStore {
-  public:
-    [[nodiscard]] std::optional<std::string> get(std::string_view, std::string_view, std::string_view) const override {
-        return std::nullopt;
-    }
-    void save(std::string_view, std::string_view, std::string_view, std::string_view) override {}
-};
-class VasteKlok : public Clock {
-  public:
-    [[nodiscard]] LocalTime now() const override { return {.year = 2026, .month = 6, .day = 20}; }
-};
-
 // A schedule with every line of the display switched on.
 struct Opstelling {
-    Programma programma;
-    FontTextMeasure meter;
-    VasteKlok klok;
+    EchtProgramma tavelo;
     Vertoning venster;
-    QImage beeld{3840, 2160, QImage::Format_RGB32};
+    QImage beeld{groot_scherm, QImage::Format_RGB32};
     int rij = 1;
 
     Opstelling() {
-        LosRooster rooster;
-        static_cast<void>(lees_rooster(bench_data + "rooster_1000.rst", rooster.doel()));
-        programma.schedule = std::move(rooster.schedule);
-        programma.grdRooster = std::move(rooster.grid);
-        programma.instellingen = laad_instellingen(LegeOpslag{});
-        for (std::int16_t Instellingen::*vlag :
-             {&Instellingen::showrubric, &Instellingen::shownumber, &Instellingen::showhorsesiredamr,
-              &Instellingen::showhorsecolor, &Instellingen::showhorsegender, &Instellingen::showhorseage,
-              &Instellingen::showhorsebreed, &Instellingen::showhorsebreeder, &Instellingen::showunionname})
-            programma.instellingen.*vlag = 1;
-        programma.rooster_extensie = "rst";
-        programma.txtINR = "1";
+        tavelo.open(bench_data + "rooster_1000.rst");
+        tavelo.toon_alle_regels();
+        tavelo.programma.txtINR = "1"; // an empty number box would clear the heading
         venster.picDeelnemer.breedte = twips(beeld.width());
         venster.picDeelnemer.hoogte = twips(beeld.height());
     }
 
     // Another combination every time, as in the ring.
     void stel_samen() {
+        Programma& programma = tavelo.programma;
         const Grid& grid = programma.grdRooster;
         rij = rij % (grid.rows() - 1) + 1;
         programma.huidig_nr_tijd = grid.text(rij, kolom_nrtijd);
         toon_combinatie(venster, int16_of(grid.text(rij, kolom_inr)).value_or(0), rij, grid.text(rij, kolom_naam),
-                        programma, meter, klok);
+                        programma, tavelo.meter, tavelo.klok);
     }
     void schilder_vlakken() {
         QPainter painter(&beeld);
@@ -105,7 +79,7 @@ void alleen_schilderen(benchmark::State& state) {
         QRectF band;
     };
     std::vector<Beeld> beelden;
-    for (int i = 1; i < opstelling.programma.grdRooster.rows(); ++i) {
+    for (int i = 1; i < opstelling.tavelo.programma.grdRooster.rows(); ++i) {
         opstelling.stel_samen();
         const Tekenvlak& band = opstelling.venster.picRubriek;
         beelden.push_back({regels_van(opstelling.venster.picDeelnemer),
@@ -133,7 +107,7 @@ void alleen_schilderen(benchmark::State& state) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QApplication toepassing(argc, argv);
+    Application toepassing(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RegisterBenchmark("samenstellen_en_schilderen", samenstellen_en_schilderen)
         ->Repetitions(5)

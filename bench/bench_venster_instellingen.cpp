@@ -1,27 +1,17 @@
 // A step of a scroll bar in the settings dialog until the preview and the participant window have been repainted, both
 // in windows of 3840x2160, against painting the same texts directly and against two frames of 60 Hz.
-#include "stil.h"
+#include "programma.h"
 #include "verhouding.h"
 
-#include "app/start.h"
-#include "basis/number.h"
-#include "basis/system_time.h"
-#include "excel/builtin_excel.h"
 #include "platform/application.h"
 #include "platform/dialogs.h"
-#include "platform/fonts.h"
-#include "platform/pointer.h"
 #include "platform/qt_text.h"
-#include "schedule/record/kolommen.h"
-#include "ui/main/frmTavelo.h"
 #include "ui/settings/frmInstellingen.h"
 
-#include <QAction>
 #include <QPainter>
 #include <QScrollBar>
 
 #include <array>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -29,18 +19,7 @@ namespace {
 
 using namespace tavelo;
 
-constexpr QSize groot_scherm(3840, 2160);
-constexpr double twee_beelden = 2.0 / 60;
-
-struct LegeOpslag final : SettingsStore {
-    [[nodiscard]] std::optional<std::string> get(std::string_view, std::string_view, std::string_view) const override {
-        return {};
-    }
-    void save(std::string_view, std::string_view, std::string_view, std::string_view) override {}
-};
-struct GeenMappen final : SpecialFolders {
-    [[nodiscard]] std::optional<std::string> path(int) const override { return {}; }
-};
+constexpr double twee_beelden = 2 * een_beeld;
 
 // Counts how often a picture area is painted.
 struct Schilderteller final : QObject {
@@ -55,23 +34,18 @@ struct Schilderteller final : QObject {
 class Opstelling {
   public:
     Opstelling() {
-        Main(
-            programma_, opslag_, [] { return false; }, venster_);
-        kies_bestand(bediening_, bench_data + "rooster_1000.rst", 0);
-        laad_rooster(bediening_, 0);
-        zet_alle_regels_aan();
-        venster_.resize(groot_scherm);
-        venster_.findChild<QAction*>("mnuPopup")->trigger();
-        deelnemer_ = venster_.findChild<QWidget*>("frmDeelnemer");
-        deelnemer_->resize(groot_scherm);
-        zet_txtINR(bediening_, eerste_nummer());
-        venster_.toon();
+        tavelo_.open(bench_data + "rooster_1000.rst");
+        tavelo_.toon_alle_regels();
+        tavelo_.programma.instellingen.textsize = 50; // room for the step before the lines fill the height
+        deelnemer_ = tavelo_.maak_vensters_groot();
+        zet_txtINR(tavelo_.bediening, tavelo_.nummers().front());
+        tavelo_.venster.toon();
         dialoog_.emplace(
-            bediening_, kleuren_, [this] { venster_.toon_vertoningen(); }, &venster_);
+            tavelo_.bediening, kleuren_, [this] { tavelo_.venster.toon_vertoningen(); }, &tavelo_.venster);
         balk_ = dialoog_->findChild<QScrollBar*>("HScrollDeelnemerTekstGrootte");
         dialoog_->show();
         QCoreApplication::processEvents();
-        for (QWidget* vlak : venster_.findChildren<QWidget*>("picDeelnemer"))
+        for (QWidget* vlak : tavelo_.venster.findChildren<QWidget*>("picDeelnemer"))
             vlak->installEventFilter(&geschilderd_);
     }
 
@@ -79,50 +53,17 @@ class Opstelling {
     void stap() {
         balk_->triggerAction(omhoog_ ? QAbstractSlider::SliderSingleStepAdd : QAbstractSlider::SliderSingleStepSub);
         omhoog_ = !omhoog_;
-        for (QWidget* venster : std::initializer_list<QWidget*>{&venster_, deelnemer_, &*dialoog_}) {
-            // What the screen's next frame would ask for, without waiting for it.
-            QEvent beeld(QEvent::UpdateRequest);
-            QCoreApplication::sendEvent(venster, &beeld);
-        }
+        for (QWidget* venster : std::initializer_list<QWidget*>{&tavelo_.venster, deelnemer_, &*dialoog_})
+            EchtProgramma::schilder(*venster);
     }
 
     [[nodiscard]] int geschilderd() const { return geschilderd_.aantal; }
-    [[nodiscard]] const Bediening& bediening() const { return bediening_; }
+    [[nodiscard]] const Bediening& bediening() const { return tavelo_.bediening; }
 
   private:
-    void zet_alle_regels_aan() {
-        Instellingen& i = programma_.instellingen;
-        for (auto veld : {&Instellingen::showrubric, &Instellingen::shownumber, &Instellingen::showhorsesiredamr,
-                          &Instellingen::showhorsecolor, &Instellingen::showhorsegender, &Instellingen::showhorseage,
-                          &Instellingen::showhorsebreed, &Instellingen::showhorsebreeder, &Instellingen::showunionname})
-            i.*veld = 1;
-        i.textsize = 50; // room for the step before the lines fill the height
-    }
-    [[nodiscard]] std::string eerste_nummer() const {
-        for (int rij = 1; rij < programma_.grdRooster.rows(); ++rij)
-            if (const std::string& nummer = programma_.grdRooster.text(rij, kolom_inr); leading_number(nummer) != 0)
-                return nummer;
-        return {};
-    }
-
     DialogOwner eigenaar_;
-    FontTextMeasure meter_;
-    GeenBerichten berichten_;
-    QtOpenDialog open_dialoog_{eigenaar_};
     QtColourDialog kleuren_{eigenaar_};
-    SystemFileStamp tijdstempels_;
-    SystemClock klok_;
-    QtPointer muisaanwijzer_;
-    GeenLogboek logboek_;
-    LegeOpslag opslag_;
-    GeenMappen mappen_;
-    std::unique_ptr<ExcelApplication> excel_ = builtin_excel(locale_named("nl-NL"));
-    Programma programma_;
-    Bediening bediening_{programma_,
-                         {meter_, berichten_, open_dialoog_, tijdstempels_, klok_, muisaanwijzer_, logboek_, *excel_},
-                         {},
-                         {}};
-    frmTavelo venster_{bediening_, {opslag_, mappen_, ".", [] {}, [](frmTavelo&) {}}};
+    EchtProgramma tavelo_;
     QWidget* deelnemer_ = nullptr;
     std::optional<frmInstellingen> dialoog_; // loads the settings when it is made, so after they have been set
     QScrollBar* balk_ = nullptr;

@@ -88,9 +88,11 @@ class Beeld:
         links, rechts = min(g[1] for g in gevonden), max(g[2] for g in gevonden)
         return links, gevonden[0][0], rechts - links + 1, gevonden[-1][0] - gevonden[0][0] + 1
 
-    def bewaar(self, pad):
+    def bewaar(self, pad, kleuren=None):
+        """As a PNG; with a number of colours it becomes much smaller."""
+        beperking = ["+dither", "-colors", str(kleuren)] if kleuren else []
         subprocess.run(["convert", "-size", f"{self.breedte}x{self.hoogte}", "-depth", "8", "rgb:-", "-strip",
-                        f"png:{pad}"], input=self.rgb, check=True)
+                        *beperking, f"png:{pad}"], input=self.rgb, check=True)
 
 
 def inktbreedte(tekst, punten):

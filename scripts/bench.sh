@@ -20,4 +20,6 @@ done
 if [ "$#" -eq 0 ]; then
     echo "== excel.py"
     bench/excel.py
+    echo "== bench_start.py"
+    scripts/bench_start.py --program build/release/src/tavelo
 fi

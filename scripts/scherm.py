@@ -164,14 +164,16 @@ class Scherm:
         } | (omgeving or {})
         self.omgeving["DISPLAY"] = self._start_server()
         self._start_achtergrond("openbox", "--sm-disable")
-        wacht_tot(lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.roep("xprop", "-root"), "de vensterbeheerder")
+        wacht_tot(lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.roep("xprop", "-root"), "de vensterbeheerder", 30)
         # A pointer over a control colours it; between clicks it rests in a corner.
         self.muis_weg()
 
     def _start_server(self):
         lees, schrijf = os.pipe()
+        # Without -noreset the server begins anew, and throws out who is just coming in, whenever its last client leaves.
         server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(schrijf), "-screen", "0", f"{self.breedte}x{self.hoogte}x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(schrijf), "-screen", "0", f"{self.breedte}x{self.hoogte}x24", "-noreset",
+             "-nolisten", "tcp"],
             pass_fds=[schrijf], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self._taken.callback(self._stop, server)
         os.close(schrijf)

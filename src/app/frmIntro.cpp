@@ -119,8 +119,8 @@ void draw_horse(QPainter& p) {
     // Mane, plaited as for a show.
     p.setBrush(QColor(0x24, 0x15, 0x0D));
     for (const QPointF& knot :
-         {QPointF(135, 146), QPointF(122, 168), QPointF(107, 188), QPointF(90, 207), QPointF(74, 230), QPointF(60, 256),
-          QPointF(48, 284), QPointF(39, 313), QPointF(31, 342)})
+         {QPointF(138, 148), QPointF(126, 170), QPointF(111, 191), QPointF(95, 210), QPointF(79, 233), QPointF(65, 259),
+          QPointF(53, 287), QPointF(44, 316), QPointF(36, 345)})
         p.drawEllipse(knot, 9.5, 8);
 
     // White blaze.

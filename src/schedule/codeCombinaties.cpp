@@ -82,6 +82,7 @@ std::string hoofdstelnummer(int n, const RecordItems& record, bool hoofdstelnumm
 }
 
 void lees_combinatie(CombinatieRecord& entry, int n, const Schedule& schedule, const Clock& klok) {
+    entry = {};
     if (n < 0 || n > hoogste_deelnemer) return;
     const RecordItems record(schedule.deelnemer(n));
     entry.nr = std::to_string(n);

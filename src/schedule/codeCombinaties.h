@@ -69,7 +69,7 @@ struct CombinatieRecord {
 // file says so; what is derived is cut to its last three characters. "" for 0.
 [[nodiscard]] std::string hoofdstelnummer(int n, const RecordItems& record, bool hoofdstelnummerautomatisch);
 
-// Decodes combination n; a number outside 0 to 4000 leaves `entry` as it was. Ages count to today on `klok`.
+// Decodes combination n; a number outside 0 to 4000 leaves `entry` empty. Ages count to today on `klok`.
 void lees_combinatie(CombinatieRecord& entry, int n, const Schedule& schedule, const Clock& klok);
 
 // Age in whole years between two dates of the form "d-m-yyyy"; a missing day or month is the first. "" when a date is

@@ -82,9 +82,11 @@ TEST(Combinatie, een_nummer_buiten_de_lijst_laat_de_combinatie_leeg) {
     const Schedule schedule;
     for (const int n : {-1, 4001, 40000}) {
         CombinatieRecord entry;
+        entry.na = "van de vorige";
         lees_combinatie(entry, n, schedule, test::FakeClock());
         EXPECT_EQ(entry.nr, "");
         EXPECT_EQ(entry.hnr, "");
+        EXPECT_EQ(entry.na, "");
     }
     EXPECT_EQ(gelezen(4000, "na:Laatste").na, "Laatste");
     EXPECT_EQ(gelezen(0, "na:Nul\thnr:7").na, "Nul");

@@ -37,6 +37,17 @@ Bytes stream_of(Version version, const std::vector<SheetBytes>& sheets, const By
 
 } // namespace
 
+Bytes& Bytes::add(const Bytes& other) {
+    bytes_.reserve(bytes_.size() + other.size());
+    for (const std::byte byte : other.bytes_)
+        bytes_.push_back(byte);
+    return *this;
+}
+
+Bytes& Bytes::record(unsigned type, const Bytes& data) {
+    return u16(type).u16(static_cast<unsigned>(data.size())).add(data);
+}
+
 Bytes bof_8(unsigned kind) { return Bytes().u16(0x0600).u16(kind).zeros(12); }
 Bytes bof_5(unsigned kind) { return Bytes().u16(0x0500).u16(kind).zeros(4); }
 

@@ -35,13 +35,8 @@ class Bytes {
         bytes_.resize(bytes_.size() + count);
         return *this;
     }
-    Bytes& add(const Bytes& other) {
-        bytes_.insert(bytes_.end(), other.bytes_.begin(), other.bytes_.end());
-        return *this;
-    }
-    Bytes& record(unsigned type, const Bytes& data = {}) {
-        return u16(type).u16(static_cast<unsigned>(data.size())).add(data);
-    }
+    Bytes& add(const Bytes& other);
+    Bytes& record(unsigned type, const Bytes& data = {});
     // Writes over what is there.
     Bytes& put_u8(std::size_t place, unsigned value) {
         bytes_.at(place) = static_cast<std::byte>(value);

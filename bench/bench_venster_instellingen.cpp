@@ -37,7 +37,7 @@ class Opstelling {
         tavelo_.open(bench_data + "rooster_1000.rst");
         tavelo_.toon_alle_regels();
         tavelo_.programma.instellingen.textsize = 50; // room for the step before the lines fill the height
-        deelnemer_ = tavelo_.maak_vensters_groot();
+        deelnemer_ = tavelo_.open_monitor(groot_scherm);
         zet_txtINR(tavelo_.bediening, tavelo_.nummers().front());
         tavelo_.venster.toon();
         dialoog_.emplace(

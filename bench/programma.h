@@ -57,9 +57,9 @@ struct EchtProgramma {
         open_dialoog.pad = pad;
         venster.findChild<QAction*>("mnuBestand0")->trigger();
     }
-    // The participant window next to the main one, both as large as they get.
-    [[nodiscard]] QWidget* maak_vensters_groot() {
-        venster.resize(groot_scherm);
+    // The participant window as large as it gets, next to the main one of this size.
+    [[nodiscard]] QWidget* open_monitor(QSize hoofdvenster) {
+        venster.resize(hoofdvenster);
         venster.findChild<QAction*>("mnuPopup")->trigger();
         auto* deelnemer = venster.findChild<QWidget*>("frmDeelnemer");
         deelnemer->resize(groot_scherm);

@@ -1,5 +1,5 @@
-// Runs the registered benchmarks and keeps the best time of each, so that a bench can print what it is about: the ratio
-// of two times taken in one run on one machine.
+// Runs the registered benchmarks and keeps the best processor time of each, so that a bench can print what it is about:
+// the ratio of two times taken in one run on one machine. What else the machine does only adds to them.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -17,7 +17,7 @@ class Tijden : public benchmark::ConsoleReporter {
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& run : runs) {
             if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
-            const double seconden = run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
+            const double seconden = run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
             const auto [plaats, nieuw] = tijden_.try_emplace(run.run_name.function_name, seconden);
             if (!nieuw) plaats->second = std::min(plaats->second, seconden);
         }

@@ -39,9 +39,9 @@ bool is_anders(int kolom, const std::string& oud, const std::string& nieuw) {
     }
 }
 
-// Finds rows by number while rows are inserted. Where a number stands more than once the first row counts. Rows are
-// inserted from the top down, so the ones inserted so far never move; an older row moves down by the inserted rows
-// above it.
+// Finds rows by number, in constant time, while rows are inserted. Where a number stands more than once the first row
+// counts. Rows are inserted from the top down: what stands above the last one, inserted or older, never moves again,
+// and the older rows below it have moved down by all rows inserted so far.
 class RijenIndex {
   public:
     explicit RijenIndex(const Grid& grid) {
@@ -54,20 +54,26 @@ class RijenIndex {
         if (const auto nieuw = nieuwe_rijen_.find(nummer); nieuw != nieuwe_rijen_.end()) return nieuw->second;
         const auto oud = oude_rijen_.find(nummer);
         if (oud == oude_rijen_.end()) return std::nullopt;
-        const auto boven = std::ranges::upper_bound(eerste_verschoven_, oud->second);
-        return oud->second + static_cast<int>(boven - eerste_verschoven_.begin());
+        const int rij = oud->second;
+        return rij < eerste_verschuivende() ? vaste_rijen_[static_cast<std::size_t>(rij)] : rij + ingevoegd_;
     }
 
     // `rij` is beyond every row inserted before.
     void ingevoegd(double nummer, int rij) {
-        eerste_verschoven_.push_back(rij - static_cast<int>(eerste_verschoven_.size()));
+        while (eerste_verschuivende() + ingevoegd_ < rij)
+            vaste_rijen_.push_back(eerste_verschuivende() + ingevoegd_);
+        ++ingevoegd_;
         nieuwe_rijen_.emplace(nummer, rij);
     }
 
   private:
+    // Of the older rows, as they stood before the merge.
+    [[nodiscard]] int eerste_verschuivende() const { return static_cast<int>(vaste_rijen_.size()); }
+
     std::unordered_map<double, int> oude_rijen_; // position before the merge
     std::unordered_map<double, int> nieuwe_rijen_;
-    std::vector<int> eerste_verschoven_; // of each inserted row: the first older row, as it stood, that it moved down
+    std::vector<int> vaste_rijen_; // where the older rows above the last inserted one stand now
+    int ingevoegd_ = 0;
 };
 
 // Assembles the lines of the report; without a listener there is nothing to assemble.

@@ -2,6 +2,7 @@
 
 #include "basis/codeDatumTijd.h"
 #include "fakes/grid_events.h"
+#include "fakes/heap.h"
 #include "fakes/opstelling.h"
 #include "fakes/temp_folder.h"
 #include "schedule/lees_rooster.h"
@@ -220,6 +221,14 @@ class SlechteSchrijver : public Geopend {
         ASSERT_LE(programma.grdImport.rows(), meeste_rijen + 1);
     }
 
+    // The same two files every time, so that the memory that is held afterwards can be compared.
+    void schrijf_vast_bestand() {
+        schrijf(jan, later());
+        tik_en_verwacht(std::string(jan));
+        schrijf(piet, later());
+        tik_en_verwacht(std::string(piet));
+    }
+
     [[nodiscard]] int hele_keren() const { return hele_keren_; }
 
   private:
@@ -355,9 +364,17 @@ TEST(AutoImport, het_grid_volgt_een_slechte_schrijver_door_duizenden_storingen) 
     Toeval toeval(begin);
     SlechteSchrijver schrijver(toeval);
     constexpr int stappen = 3000;
+    constexpr int ronde = 500;
+    constexpr std::size_t speling = 4096; // room that vectors keep
+    std::size_t geheugen = 0;             // after the first round
     for (int stap = 0; stap < stappen; ++stap) {
         schrijver.stap();
         ASSERT_NO_FATAL_FAILURE(schrijver.vergelijk()) << "step " << stap;
+        if (stap % ronde != ronde - 1) continue;
+        schrijver.schrijf_vast_bestand();
+        ASSERT_NO_FATAL_FAILURE(schrijver.vergelijk()) << "step " << stap;
+        if (geheugen == 0) geheugen = test::heap_bytes();
+        EXPECT_LE(test::heap_bytes(), geheugen + speling) << "step " << stap;
     }
     EXPECT_GT(schrijver.hele_keren(), stappen / 3);
 }

@@ -18,6 +18,8 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
+
 namespace tavelo {
 namespace {
 
@@ -385,6 +387,12 @@ struct FrmTaveloTik : FrmTavelo {
         opstelling.tijdstempels.stamps[pad].minute += 1;
     }
     void tik() const { QMetaObject::invokeMethod(&vind<QTimer>("Timer1"), "timeout", Qt::DirectConnection); }
+    // What the screen's next frame would ask for, without waiting for it.
+    void schilder() const {
+        QCoreApplication::sendPostedEvents();
+        QEvent beeld(QEvent::UpdateRequest);
+        QCoreApplication::sendEvent(venster.get(), &beeld);
+    }
 };
 
 TEST_F(FrmTaveloTik, de_klok_staat_op_tien_seconden_en_loopt) {
@@ -404,6 +412,50 @@ TEST_F(FrmTaveloTik, een_gewijzigd_bestand_wijzigt_de_lijst_zonder_wat_getypt_is
     EXPECT_EQ(txtINR().cursorPosition(), 0);
     EXPECT_EQ(venster->focusWidget(), &txtINR());
     EXPECT_EQ(grdRooster().currentIndex().row(), 0); // where filling the times ends
+}
+
+TEST_F(FrmTaveloTik, drie_gewijzigde_cellen_hertekenen_drie_cellen_en_laten_lijst_en_monitor_staan) {
+    std::vector<int> nummers(60);
+    std::iota(nummers.begin(), nummers.end(), 1);
+    herschrijf(nummers);
+    tik();
+    vind<QAction>("mnuPopup").trigger();
+    typ("22");
+    grdRooster().verticalScrollBar()->setValue(19);
+    programma.grdRooster.set_row(1); // where filling the times ends
+    programma.grdRooster.set_column(3);
+    schilder();
+
+    struct SchilderKijker final : QObject {
+        QRegion geschilderd;
+        bool eventFilter(QObject*, QEvent* gebeurtenis) override {
+            if (gebeurtenis->type() == QEvent::Paint) geschilderd += static_cast<QPaintEvent*>(gebeurtenis)->region();
+            return false;
+        }
+    } kijker;
+    grdRooster().viewport()->installEventFilter(&kijker);
+    QSignalSpy gemeld(grdRooster().model(), &QAbstractItemModel::dataChanged);
+    QSignalSpy resets(grdRooster().model(), &QAbstractItemModel::modelReset);
+    const std::vector<GeplaatsteTekst> monitor = opstelling.bediening.deelnemer_venster.picDeelnemer.regels();
+
+    std::string tekst = roosterbestand(nummers);
+    for (const char* paard : {"Paard 21\r", "Paard 22\r", "Paard 24\r"})
+        tekst.replace(tekst.find(paard), 5, "Pony");
+    map.write("volg.rst", tekst);
+    opstelling.tijdstempels.stamps[pad].minute += 1;
+    tik();
+    schilder();
+
+    QRegion drie_cellen;
+    for (const int rij : {20, 21, 23})
+        drie_cellen += grdRooster().visualRect(grdRooster().model()->index(rij, kolom_paard));
+    EXPECT_EQ(kijker.geschilderd, drie_cellen);
+    EXPECT_EQ(gemeld.size(), 3);
+    EXPECT_EQ(resets.size(), 0);
+    EXPECT_EQ(grdRooster().verticalScrollBar()->value(), 19);
+    EXPECT_EQ(txtINR().text(), "22");
+    EXPECT_FALSE(monitor.empty());
+    EXPECT_EQ(opstelling.bediening.deelnemer_venster.picDeelnemer.regels(), monitor);
 }
 
 TEST_F(FrmTaveloTik, het_label_wordt_groen_tijdens_het_lezen_en_daarna_weer_gewoon) {

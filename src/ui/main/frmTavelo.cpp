@@ -48,6 +48,8 @@ const Breedten& breedten(const QWidget& venster) {
 
 constexpr QSize venstermaat(1240, 760);
 
+constexpr int groen_ms = 500; // a re-read takes less than a frame: nobody would see it
+
 constexpr int hele_klik = 120; // a notch of the wheel, in eighths of a degree
 
 // The toolkit takes "[*]" in a caption as its mark for unsaved work.
@@ -95,6 +97,10 @@ frmTavelo::frmTavelo(Bediening& bediening, TaveloOmgeving omgeving)
     timer1_.setObjectName(QStringLiteral("Timer1"));
     timer1_.setInterval(auto_import_interval_ms);
     connect(&timer1_, &QTimer::timeout, this, &frmTavelo::tik);
+    groen_.setObjectName(QStringLiteral("TimerGroen"));
+    groen_.setSingleShot(true);
+    groen_.setInterval(groen_ms);
+    connect(&groen_, &QTimer::timeout, this, &frmTavelo::toon_omschrijving);
 }
 
 frmTavelo::~frmTavelo() = default;
@@ -345,7 +351,7 @@ void frmTavelo::toon_vertoningen() {
 void frmTavelo::toon_omschrijving() {
     constexpr std::int32_t lichtgroen = 0xBBFFBB;
     QPalette kleuren = palette();
-    if (programma_.herlezen_bezig) {
+    if (programma_.herlezen_bezig || groen_.isActive()) {
         kleuren.setColor(QPalette::Window, qt_colour(lichtgroen));
         kleuren.setColor(QPalette::WindowText, Qt::black);
     }
@@ -410,6 +416,7 @@ void frmTavelo::tik() {
     const QScopedValueRollback bezig(tikt_, true);
     const std::string stempel = programma_.rooster_tijdstempel;
     auto_import(bediening_, [this] {
+        if (programma_.herlezen_bezig) groen_.start();
         toon_omschrijving();
         lblRoosterOmschrijving_->repaint();
     });

@@ -108,6 +108,7 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     VertoningWidget* picDeelnemer_ = nullptr;
     QPointer<frmDeelnemer> deelnemer_;
     QTimer timer1_{this};
+    QTimer groen_{this}; // runs while the description still has to be seen in green
 
     Plaatsen ontwerp_;
     int label_links_ = 0;   // twips

@@ -7,7 +7,6 @@
 
 #include <cstddef>
 #include <map>
-#include <optional>
 #include <span>
 #include <utility>
 
@@ -21,7 +20,7 @@ struct ReadSheet {
     explicit ReadSheet(Sheet read) : sheet(std::move(read)), box(box_to_show(sheet)) {}
 
     Sheet sheet;
-    std::optional<UsedRange> box;
+    UsedRange box;
 };
 
 // What the objects of one open workbook share; each of them may be the last to let go.
@@ -39,9 +38,7 @@ class OpenBook {
         if (known) return known;
         auto sheet = workbook_->read_sheet(index);
         if (!sheet) return std::unexpected(sheet.error());
-        auto read = std::make_shared<const ReadSheet>(std::move(*sheet));
-        if (!read->box) return std::unexpected(OpenFailure::too_large);
-        return known = std::move(read);
+        return known = std::make_shared<const ReadSheet>(std::move(*sheet));
     }
 
     std::string stored_text_of(const Cell& cell) const {
@@ -99,7 +96,7 @@ class BuiltinWorksheet : public ExcelWorksheet {
     Automation<std::unique_ptr<ExcelUsedRange>> UsedRange() override {
         const auto sheet = read();
         if (!sheet) return std::unexpected(sheet.error());
-        return std::make_unique<BuiltinUsedRange>(*(*sheet)->box);
+        return std::make_unique<BuiltinUsedRange>((*sheet)->box);
     }
 
     Automation<std::unique_ptr<ExcelRange>> Cells(int row, int column) override {

@@ -13,13 +13,17 @@ bool fits(const UsedRange& box) {
     return rows * columns <= most_shown_cells;
 }
 
-UsedRange box_of_values(const Sheet& sheet) {
+constexpr std::uint32_t any = UINT32_MAX;
+constexpr std::uint32_t usual_columns = 256; // more than any list has, and all that an .xls can have
+
+// Of the cells within so many rows and columns from A1.
+UsedRange box_of_values(const Sheet& sheet, std::uint32_t rows, std::uint32_t columns) {
     std::uint32_t first_row = UINT32_MAX;
     std::uint32_t first_column = UINT32_MAX;
     std::uint32_t last_row = 0;
     std::uint32_t last_column = 0;
     for (const Cell& cell : sheet.cells) {
-        if (cell.kind == CellKind::blank) continue;
+        if (cell.kind == CellKind::blank || cell.row >= rows || cell.column >= columns) continue;
         first_row = std::min(first_row, cell.row);
         first_column = std::min<std::uint32_t>(first_column, cell.column);
         last_row = std::max(last_row, cell.row);
@@ -31,10 +35,15 @@ UsedRange box_of_values(const Sheet& sheet) {
 
 } // namespace
 
-std::optional<UsedRange> box_to_show(const Sheet& sheet) {
+UsedRange box_to_show(const Sheet& sheet) {
     if (fits(sheet.used)) return sheet.used;
-    const UsedRange values = box_of_values(sheet);
-    return fits(values) ? std::optional(values) : std::nullopt;
+    UsedRange values = box_of_values(sheet, any, any);
+    if (!fits(values)) values = box_of_values(sheet, any, usual_columns);
+    if (!fits(values)) {
+        const auto rows = most_shown_cells / (values.first_column + values.columns);
+        values = box_of_values(sheet, static_cast<std::uint32_t>(rows), usual_columns);
+    }
+    return values;
 }
 
 const Cell* cell_at(const Sheet& sheet, std::uint32_t row, std::uint32_t column) {

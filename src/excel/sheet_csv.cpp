@@ -28,14 +28,15 @@ std::expected<std::string, OpenFailure> blad_als_csv(Workbook& workbook, std::si
     if (blad == 0 || blad > workbook.sheets().size()) return std::string();
     const auto sheet = workbook.read_sheet(blad - 1);
     if (!sheet) return std::unexpected(sheet.error());
-    const auto box = box_to_show(*sheet);
-    if (!box) return std::unexpected(OpenFailure::too_large);
+    const UsedRange box = box_to_show(*sheet);
 
     DisplayedTexts texts(workbook, locale);
     std::string csv;
     auto cell = sheet->cells.begin();
-    for (std::uint32_t row = 0; row < box->first_row + box->rows; ++row) {
-        for (std::uint32_t column = 0; column < box->first_column + box->columns; ++column) {
+    for (std::uint32_t row = 0; row < box.first_row + box.rows; ++row) {
+        while (cell != sheet->cells.end() && cell->row < row) // what lies to the right of the box
+            ++cell;
+        for (std::uint32_t column = 0; column < box.first_column + box.columns; ++column) {
             if (column > 0) csv += ',';
             if (cell == sheet->cells.end() || cell->row != row || cell->column != column) continue;
             append_field(csv, texts.of(*cell));

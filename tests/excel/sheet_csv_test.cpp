@@ -40,11 +40,21 @@ TEST(BladAlsCsv, een_leeg_blad_en_een_blad_dat_er_niet_is_geven_niets) {
     EXPECT_EQ(csv_of("<row r=\"1\"><c r=\"A1\"><v>1</v></c></row>", "nl-NL", 0), "");
 }
 
-TEST(BladAlsCsv, opmaak_tot_onderaan_het_blad_telt_niet_en_waarden_tot_onderaan_zijn_te_veel) {
+TEST(BladAlsCsv, opmaak_tot_onderaan_het_blad_telt_niet) {
     EXPECT_EQ(csv_of(R"(<row r="1"><c r="A1"><v>1</v></c></row><row r="1048576"><c r="XFD1048576"/></row>)"), "1\r\n");
-    EXPECT_EQ(csv_of(R"(<row r="1"><c r="A1"><v>1</v></c></row><row r="1048576"><c r="XFD1048576"><v>2</v></c></row>)")
-                  .error(),
-              OpenFailure::too_large);
+}
+
+TEST(BladAlsCsv, een_verdwaalde_waarde_ver_weg_houdt_de_lijst_niet_tegen) {
+    EXPECT_EQ(csv_of(R"(<row r="1"><c r="A1"><v>1</v></c><c r="XFD1"><v>9</v></c></row>)"
+                     R"(<row r="2"><c r="B2"><v>2</v></c></row><row r="1048576"><c r="A1048576"><v>3</v></c></row>)")
+                  ->substr(0, 8),
+              "1,\r\n,2\r\n");
+    EXPECT_EQ(csv_of(R"(<row r="1"><c r="A1"><v>1</v></c><c r="L1"><v>2</v></c></row>)"
+                     R"(<row r="1048576"><c r="XFD1048576"><v>3</v></c></row>)"),
+              "1,,,,,,,,,,,2\r\n");
+    EXPECT_EQ(csv_of(R"(<row r="1"><c r="A1"><v>1</v></c><c r="L1"><v>2</v></c></row>)"
+                     R"(<row r="1048576"><c r="A1048576"><v>3</v></c></row>)"),
+              "1,,,,,,,,,,,2\r\n");
 }
 
 } // namespace

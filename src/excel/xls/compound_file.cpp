@@ -96,6 +96,16 @@ class CompoundFile {
         return bytes;
     }
 
+    // The table knows where the stream goes on, but the file ends before it: it is being saved. That the last sector is
+    // not filled up is no reason to doubt.
+    [[nodiscard]] bool is_cut_off(const Entry& entry, Sectors sectors) const {
+        if (sectors == Sectors::small) return false;
+        const auto chain = chain_of(entry.first_sector, sector_table_);
+        const std::size_t needed = std::min(chain.size(), (entry.size + sector_size_ - 1) / sector_size_);
+        return std::any_of(chain.begin(), chain.begin() + static_cast<std::ptrdiff_t>(needed),
+                           [this](std::uint32_t number) { return sector(number).empty(); });
+    }
+
   private:
     [[nodiscard]] std::size_t sector_count() const { return file_.size() / sector_size_ + 1; }
 
@@ -217,7 +227,9 @@ std::expected<std::vector<std::byte>, CompoundFailure> workbook_stream(ByteSpan 
             usual == CompoundFile::Sectors::small ? CompoundFile::Sectors::large : CompoundFile::Sectors::small;
         for (const auto sectors : {usual, other}) {
             std::vector<std::byte> bytes = compound.read(*entry, sectors);
-            if (is_bof(word_at(bytes, 0))) return bytes;
+            if (!is_bof(word_at(bytes, 0))) continue;
+            if (compound.is_cut_off(*entry, sectors)) return std::unexpected(CompoundFailure::damaged);
+            return bytes;
         }
     }
     if (!candidates.empty()) return std::unexpected(CompoundFailure::damaged);

@@ -12,8 +12,9 @@ namespace tavelo {
 enum class CompoundFailure : std::uint8_t { not_compound, no_workbook, encrypted_package, damaged };
 
 // The stream "Workbook", or else "Book", of a compound file; it begins with a BOF record. Excel is lenient, so this is
-// too: the stream is also found when the tree of the directory is broken, and a chain of sectors that is cut off, or
-// that comes back to a sector, gives what is before that. Never larger than the file.
+// too: the stream is also found when the tree of the directory is broken, and a chain of sectors that stops too early,
+// or that comes back to a sector, gives what is before that. A file that ends before the stream does is damaged: the
+// rows saved so far would pass for the whole list. Never larger than the file.
 [[nodiscard]] std::expected<std::vector<std::byte>, CompoundFailure> workbook_stream(ByteSpan file);
 
 // The stream with this name in small letters; empty when there is none or the file is no compound file.

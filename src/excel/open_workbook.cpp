@@ -19,6 +19,8 @@ std::expected<std::vector<std::byte>, OpenFailure> read_whole_file(std::string_v
     if (kind == std::filesystem::file_type::not_found) return std::unexpected(OpenFailure::not_found);
     if (kind != std::filesystem::file_type::regular) return std::unexpected(OpenFailure::unreadable);
 
+    if (std::filesystem::file_size(path, error) > largest_workbook_file && !error)
+        return std::unexpected(OpenFailure::too_large);
     std::ifstream stream(path, std::ios::binary);
     if (!stream) return std::unexpected(OpenFailure::unreadable);
     std::vector<std::byte> bytes;

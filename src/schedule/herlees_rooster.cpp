@@ -132,12 +132,14 @@ class Samenvoeging {
     void werk_bij(int doelrij, int bronrij, double nummer) {
         verslag_.begin_rij();
         for (const int kolom : vergeleken_kolommen) {
-            const std::string oud = doel_.text(doelrij, kolom);
+            const std::string& oud = doel_.text(doelrij, kolom);
             const std::string& nieuw = bron_.text(bronrij, kolom);
             const bool anders = is_anders(kolom, oud, nieuw);
-            if (anders) doel_.set_text(doelrij, kolom, nieuw);
-            if (kolom == kolom_cnr && !anders) bewaar_cnr(nummer, oud);
             verslag_.kolom(oud, anders ? nieuw : oud);
+            if (anders)
+                doel_.set_text(doelrij, kolom, nieuw);
+            else if (kolom == kolom_cnr)
+                bewaar_cnr(nummer, oud);
         }
         verslag_.einde_rij();
         doel_.set_text(doelrij, kolom_hnr, bron_.text(bronrij, kolom_hnr));

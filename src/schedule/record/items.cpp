@@ -8,9 +8,14 @@ namespace tavelo {
 
 namespace {
 
-// `sleutel_van(item) == sleutel`, without making a text of every key: folding keeps the length of a key in plain
-// letters.
+// `sleutel_van(item) == sleutel` for a trimmed item, without making a text of every key: folding keeps the length of a
+// key in plain letters, and the first letter already sends most items away.
 bool heeft_sleutel(std::string_view item, std::string_view sleutel) {
+    if (!item.empty() && !sleutel.empty()) {
+        const char eerste =
+            item.front() >= 'A' && item.front() <= 'Z' ? static_cast<char>(item.front() + 'a' - 'A') : item.front();
+        if (eerste != sleutel.front()) return false;
+    }
     const std::size_t colon = item.find(':');
     if (colon == std::string_view::npos) return sleutel.empty();
     const std::string_view gevonden = trimmed(item.substr(0, colon));

@@ -52,9 +52,12 @@ constexpr int groen_ms = 500; // a re-read takes less than a frame: nobody would
 
 constexpr int hele_klik = 120; // a notch of the wheel, in eighths of a degree
 
+// A display server ends the program that sends it a caption of megabytes, and a caption holds what the file says.
+constexpr qsizetype langste_titel = 1000;
+
 // The toolkit takes "[*]" in a caption as its mark for unsaved work.
 QString venstertitel(std::string_view tekst) {
-    return qt_text(tekst).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    return qt_text(tekst).left(langste_titel).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }
 
 QRect pixelvlak(const Rechthoek& r) {
@@ -370,7 +373,7 @@ void frmTavelo::toon_slots() {
 
 void frmTavelo::kies_nummer(const QString& tekst) {
     if (schrijft_) return;
-    zet_txtINR(bediening_, utf8(tekst));
+    typ_txtINR(bediening_, utf8(tekst));
     if (programma_.huidige_regel >= 1) grdRooster_->breng_in_beeld();
     toon();
 }

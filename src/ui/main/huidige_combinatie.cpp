@@ -65,6 +65,10 @@ std::optional<int> volgende_met_nummer(const Grid& grid, int rij, int stap) {
 
 void zet_txtINR(Bediening& bediening, std::string_view tekst) {
     if (bediening.programma.txtINR == tekst) return;
+    typ_txtINR(bediening, tekst);
+}
+
+void typ_txtINR(Bediening& bediening, std::string_view tekst) {
     bediening.programma.txtINR = tekst;
     txtINR_gewijzigd(bediening);
 }

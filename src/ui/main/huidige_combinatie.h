@@ -6,8 +6,12 @@
 
 namespace tavelo {
 
-// The text of the number box became `tekst`, typed or written by the program. An unchanged text does nothing.
+// Writes the text of the number box. An unchanged text does nothing.
 void zet_txtINR(Bediening& bediening, std::string_view tekst);
+
+// The operator typed and the box now holds `tekst`, maybe the text that it held: typed once more, a number is looked up
+// in the schedule that is open by now.
+void typ_txtINR(Bediening& bediening, std::string_view tekst);
 
 // The user picked the grid's current row, with mouse or keys.
 void kies_rij(Bediening& bediening);

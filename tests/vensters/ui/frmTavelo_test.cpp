@@ -132,6 +132,12 @@ TEST_F(FrmTavelo, een_geopend_rooster_staat_in_de_lijst_en_in_de_titel) {
     EXPECT_EQ(vind("lblRingType").accessibleName().toStdString(), "Ringtype: " + programma.labels.lblRingType);
 }
 
+TEST_F(FrmTavelo, een_omschrijving_zonder_einde_komt_niet_geheel_in_de_titel) {
+    open(map.write("lang.rst", "[Vendalo 3.4]\r\nrnr:1\troms:" + std::string(100'000, 'y') + "\r\n"));
+    EXPECT_GT(programma.bijschrift.size(), 100'000U);
+    EXPECT_EQ(venster->windowTitle(), QString::fromStdString(programma.bijschrift).left(1000));
+}
+
 TEST_F(FrmTavelo, de_openknop_en_ctrl_o_vragen_om_een_bestand_voor_het_huidige_slot) {
     QTest::mouseClick(&vind("btnFast_0"), Qt::LeftButton);
     EXPECT_EQ(opstelling.open_dialoog.requests.size(), 1U);
@@ -156,6 +162,14 @@ TEST_F(FrmTavelo, een_getypt_nummer_licht_op_en_staat_op_het_voorbeeld) {
     EXPECT_TRUE(std::ranges::any_of(regels, [](const GeplaatsteTekst& r) { return r.tekst == "Ruiter 12"; }));
     QTest::keyClick(&txtINR(), Qt::Key_Return);
     EXPECT_EQ(txtINR().selectedText(), "12");
+}
+
+TEST_F(FrmTavelo, hetzelfde_nummer_over_zichzelf_getypt_toont_het_in_een_ander_rooster) {
+    open_nummers({1, 7});
+    typ("7");
+    open(map.write("ander.rst", roosterbestand({7}, "Amazone")));
+    typ("7");
+    EXPECT_EQ(programma.huidig_naam, "Amazone 7");
 }
 
 TEST_F(FrmTavelo, het_nummervak_neemt_elke_tekst) {

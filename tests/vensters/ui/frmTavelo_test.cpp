@@ -5,8 +5,10 @@
 #include "platform/codeWindowPos.h"
 #include "platform/qt_text.h"
 #include "schedule/record/kolommen.h"
+#include "schedule/toeval.h"
 #include "ui/display/frmDeelnemer.h"
 
+#include <QAbstractItemModelTester>
 #include <QAction>
 #include <QGroupBox>
 #include <QLabel>
@@ -18,6 +20,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <iostream>
 #include <numeric>
 
 namespace tavelo {
@@ -470,6 +474,44 @@ TEST_F(FrmTaveloTik, drie_gewijzigde_cellen_hertekenen_drie_cellen_en_laten_lijs
     EXPECT_EQ(txtINR().text(), "22");
     EXPECT_FALSE(monitor.empty());
     EXPECT_EQ(opstelling.bediening.deelnemer_venster.picDeelnemer.regels(), monitor);
+}
+
+TEST_F(FrmTaveloTik, de_lijst_op_het_scherm_volgt_duizenden_herschreven_en_gehavende_bestanden) {
+    const std::uint32_t begin = test::beginwaarde(21112026);
+    std::cout << "TAVELO_SEED=" << begin << '\n';
+    test::Toeval toeval(begin);
+    typ("2");
+    txtINR().setCursorPosition(0);
+    QAbstractItemModel& model = *grdRooster().model();
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+
+    constexpr int stappen = 2000;
+    for (int stap = 0; stap < stappen; ++stap) {
+        std::vector<int> nummers;
+        for (int rijen = toeval.onder(60); rijen > 0; --rijen)
+            nummers.push_back(1 + toeval.onder(70));
+        std::string tekst = roosterbestand(nummers, toeval.uit(std::vector<std::string>{"Ruiter", "Amazone"}));
+        if (toeval.een_op(4)) tekst.resize(static_cast<std::size_t>(toeval.onder(static_cast<int>(tekst.size()))));
+        if (toeval.een_op(4)) std::filesystem::remove(pad);
+        if (!toeval.een_op(5)) std::filesystem::rename(map.write("volg.nieuw", tekst), pad);
+        if (toeval.een_op(3)) programma.grdRooster.set_top_row(1 + toeval.onder(60));
+        opstelling.tijdstempels.stamps[pad] = {2026, 6, 13, 10 + stap / 3600, stap / 60 % 60, stap % 60};
+        tik();
+
+        const Grid& grid = programma.grdRooster;
+        ASSERT_EQ(model.rowCount(), grid.rows() - 1) << "step " << stap;
+        for (int rij = 1; rij < grid.rows(); ++rij)
+            for (int kolom = 0; kolom < grid.columns(); ++kolom)
+                ASSERT_EQ(utf8(model.index(rij - 1, kolom).data().toString()), grid.text(rij, kolom));
+        ASSERT_EQ(grdRooster().verticalScrollBar()->value() + 1, grid.top_row()) << "step " << stap;
+        ASSERT_EQ(txtINR().text(), "2");
+        ASSERT_EQ(txtINR().cursorPosition(), 0);
+        ASSERT_EQ(venster->focusWidget(), &txtINR());
+    }
+    EXPECT_EQ(resets.size(), 0);
+    EXPECT_TRUE(opstelling.berichten.shown.empty());
+    EXPECT_EQ(opstelling.muisaanwijzer.depth, 0);
 }
 
 TEST_F(FrmTaveloTik, het_label_wordt_groen_zodra_het_lezen_begint_lang_genoeg_om_te_zien) {

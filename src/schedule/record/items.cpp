@@ -64,15 +64,18 @@ RecordItems::RecordItems(std::string_view record) {
 }
 
 std::size_t RecordItems::eerste_vak(std::string_view item) {
-    if (item.size() < 2) return 0;
-    return (7U * static_cast<unsigned char>(item[0]) + 31U * static_cast<unsigned char>(item[1])) % aantal_vakken;
+    std::size_t vak = 0;
+    for (const char c : item.substr(0, 4)) {
+        if (c == ':') break;
+        vak = vak * 37 + static_cast<unsigned char>(c);
+    }
+    return vak % aantal_vakken;
 }
 
 std::string_view RecordItems::waarde(std::string_view sleutel) const {
     // Items that begin alike stand behind each other in the order of the record, so the first of two equal keys is
-    // found. A key of one letter has its ":" as the second.
-    const std::size_t eerste = sleutel.size() >= 2 ? eerste_vak(sleutel) : eerste_vak(std::string(sleutel) + ":");
-    for (std::size_t vak = eerste; vakken_[vak] != 0; vak = (vak + 1) % aantal_vakken)
+    // found.
+    for (std::size_t vak = eerste_vak(sleutel); vakken_[vak] != 0; vak = (vak + 1) % aantal_vakken)
         if (const std::string_view item = items_[vakken_[vak] - 1U]; is_item_van(item, sleutel))
             return item.substr(sleutel.size() + 1);
     return zoek_waarde(sleutel, rest_);

@@ -33,7 +33,7 @@ class RecordItems {
     static constexpr std::size_t meeste_items =
         64; // more than the suite writes; what follows is searched where it stands
     static constexpr std::size_t aantal_vakken = 128; // twice as many, so that most keys are found at once
-    // Where the search for an item that begins so starts; the first two letters decide.
+    // Where the search for an item with that key starts; the first four letters decide.
     [[nodiscard]] static std::size_t eerste_vak(std::string_view item);
 
     std::array<std::string_view, meeste_items> items_;

@@ -121,9 +121,12 @@ Locale french() {
 } // namespace
 
 const Locale& locale_named(std::string_view name) {
-    static const std::array<Locale, 6> known = {dutch(), american(), flemish(), british(), german(), french()};
+    static const std::array<Locale, 6> known = {dutch(), flemish(), british(), american(), german(), french()};
     for (const Locale& locale : known)
         if (locale.name == name) return locale;
+    const std::string_view language = name.substr(0, name.find('-'));
+    for (const Locale& locale : known)
+        if (std::string_view(locale.name).substr(0, locale.name.find('-')) == language) return locale;
     return known.front();
 }
 

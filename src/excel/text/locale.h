@@ -30,7 +30,8 @@ struct Locale {
     std::array<std::string, 8> errors;
 };
 
-// nl-NL for an unknown name: this is a Dutch program.
+// For a country that is not known (de-AT) another one of the same language, for an unknown language nl-NL: this is a
+// Dutch program.
 [[nodiscard]] const Locale& locale_named(std::string_view name);
 
 } // namespace tavelo

@@ -3,8 +3,19 @@
 #include "basis/text.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <filesystem>
-#include <fstream>
+#include <memory>
+
+#ifdef _WIN32
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <cstdint>
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+#endif
 
 namespace tavelo {
 
@@ -14,29 +25,55 @@ std::filesystem::path native(std::string_view pad) {
     return std::filesystem::path(std::u8string(pad.begin(), pad.end()));
 }
 
+struct Sluiter {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using Open = std::unique_ptr<std::FILE, Sluiter>;
+
+#ifdef _WIN32
+// Shared in every way. Opened as usual, a writer could not replace or delete the file as long as it is read here.
+Open opened_shared(const std::filesystem::path& path) {
+    const HANDLE handle =
+        CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) return nullptr;
+    const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_RDONLY | _O_BINARY);
+    if (descriptor < 0) {
+        CloseHandle(handle);
+        return nullptr;
+    }
+    Open file(_fdopen(descriptor, "rb"));
+    if (!file) _close(descriptor);
+    return file;
+}
+#else
+Open opened_shared(const std::filesystem::path& path) { return Open(std::fopen(path.c_str(), "rb")); }
+#endif
+
 // A folder, a pipe or a device opens on some systems; only a plain file counts.
-std::optional<std::ifstream> opened(std::string_view pad) {
-    if (pad.empty()) return std::nullopt;
+Open opened(std::string_view pad) {
+    if (pad.empty()) return nullptr;
     const std::filesystem::path path = native(pad);
     std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream) return std::nullopt;
-    return stream;
+    return std::filesystem::is_regular_file(path, error) ? opened_shared(path) : nullptr;
+}
+
+// Appends what the file still holds, at most `most` bytes.
+void append(std::FILE* file, std::size_t most, std::string& bytes) {
+    const std::size_t had = bytes.size();
+    bytes.resize(had + most);
+    bytes.resize(had + std::fread(bytes.data() + had, 1, most, file));
 }
 
 // Appends what the file still holds. Grows in steps of the size that it has now: it may change while it is read.
-void append_rest(std::ifstream& stream, std::size_t expected, std::string& bytes) {
+void append_rest(std::FILE* file, std::size_t expected, std::string& bytes) {
     constexpr std::size_t least = 4096;
-    std::size_t step = std::max(expected, least);
-    while (stream) {
-        const std::size_t had = bytes.size();
-        bytes.resize(had + step);
-        stream.read(bytes.data() + had, static_cast<std::streamsize>(step));
-        bytes.resize(had + static_cast<std::size_t>(std::max<std::streamsize>(stream.gcount(), 0)));
-        step = least;
-        if (bytes.size() > least) step = bytes.size() / 4;
-        if (stream && stream.peek() == std::ifstream::traits_type::eof()) return;
+    std::size_t wanted = bytes.size();
+    std::size_t step = std::max(expected + 1, least); // one more, to meet the end at once
+    while (bytes.size() == wanted) {
+        wanted += step;
+        append(file, step, bytes);
+        step = std::max(bytes.size() / 4, least);
     }
 }
 
@@ -71,25 +108,23 @@ std::string bestand_map(std::string_view pad) {
 }
 
 std::optional<std::string> lees_bestand(std::string_view pad) {
-    std::optional<std::ifstream> stream = opened(pad);
-    if (!stream) return std::nullopt;
+    const Open file = opened(pad);
+    if (!file) return std::nullopt;
     std::string bytes;
-    append_rest(*stream, size_of(pad), bytes);
+    append_rest(file.get(), size_of(pad), bytes);
     return bytes;
 }
 
 std::optional<BestandInhoud> lees_bestand_met_begin(std::string_view pad, std::string_view begin) {
-    std::optional<std::ifstream> stream = opened(pad);
-    if (!stream) return std::nullopt;
+    const Open file = opened(pad);
+    if (!file) return std::nullopt;
     BestandInhoud inhoud;
-    inhoud.bytes.resize(begin.size());
-    stream->read(inhoud.bytes.data(), static_cast<std::streamsize>(begin.size()));
-    inhoud.bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(stream->gcount(), 0)));
+    append(file.get(), begin.size(), inhoud.bytes);
     inhoud.begin_klopt = inhoud.bytes == begin;
-    if (inhoud.begin_klopt) append_rest(*stream, size_of(pad), inhoud.bytes);
+    if (inhoud.begin_klopt) append_rest(file.get(), size_of(pad), inhoud.bytes);
     return inhoud;
 }
 
-bool bestandbestaat(std::string_view naam) { return opened(naam).has_value(); }
+bool bestandbestaat(std::string_view naam) { return opened(naam) != nullptr; }
 
 } // namespace tavelo

@@ -1,5 +1,5 @@
 // Re-reading a schedule of which one row in a hundred changed and merging it into the grid, against reading it afresh.
-#include "stil.h"
+#include "fakes/los_rooster.h"
 #include "verhouding.h"
 
 #include "schedule/herlees_rooster.h"
@@ -18,7 +18,7 @@ const Versies versies_4000{bench_data + "rooster_4000.rst", bench_data + "rooste
 const Versies versies_1000{bench_data + "rooster_1000.rst", bench_data + "rooster_1000_gewijzigd.rst"};
 
 void herlees(benchmark::State& state, const Versies& versies) {
-    LosRooster rooster;
+    test::LosRooster rooster;
     if (!lees_rooster(versies.eerst, rooster.doel())) return state.SkipWithError("not a schedule file");
     bool gewijzigd = false; // there and back again: either way the same rows differ
     for (auto _ : state) {
@@ -30,7 +30,7 @@ void herlees(benchmark::State& state, const Versies& versies) {
 }
 
 void lees(benchmark::State& state, const Versies& versies) {
-    LosRooster rooster;
+    test::LosRooster rooster;
     for (auto _ : state) {
         if (!lees_rooster(versies.daarna, rooster.doel())) state.SkipWithError("not a schedule file");
     }

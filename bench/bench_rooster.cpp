@@ -1,6 +1,6 @@
 // Reading a schedule file and filling the grid, against the floor of any reader: the bytes of the same file by one call
 // and every line end found.
-#include "stil.h"
+#include "fakes/los_rooster.h"
 #include "verhouding.h"
 
 #include "basis/codeBestand.h"
@@ -15,7 +15,7 @@ const std::string rooster_4000 = bench_data + "rooster_4000.rst";
 const std::string rooster_1000 = bench_data + "rooster_1000.rst";
 
 void lees(benchmark::State& state, const std::string& pad) {
-    LosRooster rooster;
+    test::LosRooster rooster;
     for (auto _ : state) {
         const auto bijschrift = lees_rooster(pad, rooster.doel());
         if (!bijschrift) state.SkipWithError("not a schedule file");

@@ -1,7 +1,8 @@
 // The whole program without its splash, its settings file and its dialogs: the real windows on the real parts.
 #pragma once
 
-#include "stil.h"
+#include "fakes/los_rooster.h"
+#include "verhouding.h"
 
 #include "app/start.h"
 #include "basis/number.h"
@@ -80,12 +81,12 @@ struct EchtProgramma {
     }
 
     FontTextMeasure meter;
-    GeenBerichten berichten;
+    SilentMessages berichten;
     VasteKeuze open_dialoog;
     SystemFileStamp tijdstempels;
     SystemClock klok;
     QtPointer muisaanwijzer;
-    GeenLogboek logboek;
+    test::SilentLog logboek;
     LegeOpslag opslag;
     GeenMappen mappen;
     std::unique_ptr<ExcelApplication> excel = builtin_excel(locale_named("nl-NL"));

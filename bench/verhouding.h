@@ -12,6 +12,9 @@
 
 namespace tavelo {
 
+// Folder of the large schedules, made by the build.
+inline const std::string bench_data = TAVELO_BENCH_DATA "/";
+
 class Tijden : public benchmark::ConsoleReporter {
   public:
     void ReportRuns(const std::vector<Run>& runs) override {

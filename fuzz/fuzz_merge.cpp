@@ -1,6 +1,7 @@
 // Two schedule files, one behind the other: the second is merged into the grid of the first. Afterwards the grid is no
 // longer than the second file and every cell of it can be read.
-#include "stil.h"
+#include "eis.h"
+#include "fakes/los_rooster.h"
 
 #include "schedule/herlees_rooster.h"
 #include "schedule/record/kolommen.h"
@@ -12,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::size_t tweede = bytes.find(grens, 1);
     if (tweede == std::string_view::npos) return 0;
 
-    LosRooster rooster;
+    test::LosRooster rooster;
     rooster.lees(bytes.substr(0, tweede));
 
     Grid grdImport;

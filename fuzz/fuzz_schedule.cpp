@@ -1,6 +1,8 @@
 // Reads the bytes as the lines of a schedule and composes the display for its first rows. The first bytes choose the
 // area and the settings. Every text must come out placed at finite positions and in a size that a font can have.
-#include "stil.h"
+#include "eis.h"
+#include "fakes/los_rooster.h"
+#include "fakes/seams.h"
 
 #include "app/instellingen.h"
 #include "basis/number.h"
@@ -15,14 +17,6 @@ namespace {
 
 using namespace tavelo;
 
-class Leegte : public SettingsStore {
-  public:
-    [[nodiscard]] std::optional<std::string> get(std::string_view, std::string_view, std::string_view) const override {
-        return std::nullopt;
-    }
-    void save(std::string_view, std::string_view, std::string_view, std::string_view) override {}
-};
-
 struct Keuze {
     std::uint16_t breedte;
     std::uint16_t hoogte;
@@ -34,7 +28,7 @@ struct Keuze {
 };
 
 Instellingen instellingen(const Keuze& keuze) {
-    Instellingen uitkomst = laad_instellingen(Leegte{});
+    Instellingen uitkomst = laad_instellingen(test::FakeSettings{});
     int bit = 0;
     for (std::int16_t Instellingen::*vlag :
          {&Instellingen::showrubric, &Instellingen::showridername, &Instellingen::showhorsename,
@@ -63,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size < sizeof keuze) return 0;
     std::memcpy(&keuze, data, sizeof keuze);
 
-    LosRooster rooster;
+    test::LosRooster rooster;
     rooster.lees({reinterpret_cast<const char*>(data) + sizeof keuze, size - sizeof keuze});
     eis(rooster.grid.columns() == kolom_laatste + 1);
 
@@ -81,7 +75,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         venster.picDeelnemer.breedte = keuze.breedte;
         venster.picDeelnemer.hoogte = keuze.hoogte;
         const auto nummer = int16_of(grid.text(rij, kolom_inr)).value_or(0);
-        toon_combinatie(venster, nummer, rij, grid.text(rij, kolom_naam), programma, VasteMaat{}, VasteKlok{});
+        toon_combinatie(venster, nummer, rij, grid.text(rij, kolom_naam), programma, test::FakeMeasure{},
+                        test::FakeClock{});
         controleer(venster.picRubriek);
         controleer(venster.picDeelnemer);
     }

@@ -1,11 +1,14 @@
 #include "platform/codeWindowPos.h"
 
-#include <QWidget>
+#include <QApplication>
+#include <QDialog>
 #include <QWindow>
 
 #ifdef _WIN32
 #include <windows.h>
 #endif
+
+#include <algorithm>
 
 namespace tavelo {
 
@@ -21,5 +24,11 @@ void zet_bovenaan(QWidget& venster, bool bovenaan) {
 }
 
 bool staat_bovenaan(const QWidget& venster) { return venster.windowFlags().testFlag(Qt::WindowStaysOnTopHint); }
+
+void blijf_bereikbaar(QDialog& dialoog) {
+    const QWidgetList vensters = QApplication::topLevelWidgets();
+    if (std::ranges::any_of(vensters, [](const QWidget* w) { return w->isVisible() && staat_bovenaan(*w); }))
+        dialoog.setWindowFlag(Qt::WindowStaysOnTopHint);
+}
 
 } // namespace tavelo

@@ -9,25 +9,14 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
-#include <algorithm>
-
 namespace tavelo {
 
 namespace {
-
-bool something_stays_on_top() {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    return std::ranges::any_of(windows, [](const QWidget* w) { return w->isVisible() && staat_bovenaan(*w); });
-}
 
 // The settings dialog while it asks for a colour, else the operator's window.
 QWidget* parent_window(const DialogOwner& owner) {
     QWidget* modal = QApplication::activeModalWidget();
     return modal ? modal : owner.window.data();
-}
-
-void prepare(QDialog& dialog) {
-    if (something_stays_on_top()) dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
 }
 
 } // namespace
@@ -36,7 +25,7 @@ void QtMessageBox::show(std::string_view text) {
     QMessageBox box(QMessageBox::NoIcon, qt_text(programma_titel), qt_text(text), QMessageBox::Ok,
                     parent_window(owner_));
     box.setTextFormat(Qt::PlainText); // a file may hold anything
-    prepare(box);
+    blijf_bereikbaar(box);
     box.exec();
 }
 
@@ -62,7 +51,7 @@ std::optional<std::string> QtOpenDialog::ask(const OpenRequest& request) {
     dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Bestandstypen:"));
     dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Openen"));
     dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Annuleren"));
-    prepare(dialog);
+    blijf_bereikbaar(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     return utf8(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
 }
@@ -71,7 +60,7 @@ std::optional<std::int32_t> QtColourDialog::ask(std::int32_t preselected) {
     QColorDialog dialog(qt_colour(preselected), parent_window(owner_));
     dialog.setObjectName(QStringLiteral("dlgKleur"));
     dialog.setWindowTitle(QStringLiteral("Kleur kiezen"));
-    prepare(dialog);
+    blijf_bereikbaar(dialog);
     if (dialog.exec() != QDialog::Accepted) return {};
     return kern_colour(dialog.currentColor());
 }

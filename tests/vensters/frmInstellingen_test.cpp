@@ -1,6 +1,7 @@
 #include "ui/settings/frmInstellingen.h"
 
 #include "app/start.h"
+#include "platform/codeWindowPos.h"
 #include "platform/qt_text.h"
 #include "ui/main/frmTavelo.h"
 #include "ui/settings/frmInstellingen_besturing.h"
@@ -67,6 +68,15 @@ class FrmInstellingen : public testing::Test {
   private:
     std::optional<frmInstellingen> venster_;
 };
+
+TEST_F(FrmInstellingen, staat_voor_een_venster_dat_bovenaan_staat_en_anders_tussen_de_rest) {
+    EXPECT_FALSE(staat_bovenaan(open()));
+    vernietig();
+    QWidget monitor;
+    zet_bovenaan(monitor, true);
+    monitor.show();
+    EXPECT_TRUE(staat_bovenaan(open()));
+}
 
 TEST_F(FrmInstellingen, heeft_elke_besturing_onder_haar_naam) {
     open();

@@ -1,5 +1,6 @@
 #include "ui/settings/frmInstellingen.h"
 
+#include "platform/codeWindowPos.h"
 #include "platform/qt_text.h"
 #include "ui/settings/frmInstellingen_besturing.h"
 #include "ui/settings/plaats_dialoog.h"
@@ -94,6 +95,7 @@ frmInstellingen::frmInstellingen(Bediening& bediening, ColourDialog& kleurendial
       dialoog_(bediening) {
     setObjectName("frmInstellingen");
     setWindowTitle("Instellingen");
+    blijf_bereikbaar(*this);
 
     auto* bladen = new QTabWidget;
     bladen->setObjectName("tabInstellingen");

@@ -14,6 +14,13 @@ namespace tavelo {
 [[nodiscard]] inline QString qt_text(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
+// The beginning of a text, for one line on the screen: of a longer one the toolkit would lay out every letter, at a
+// hundred times its memory, before it cuts it off; and a display server ends the program that sends it a caption of
+// megabytes.
+inline constexpr std::size_t longest_line = 1000; // UTF-16 units
+[[nodiscard]] inline QString line_of_text(std::string_view text) {
+    return qt_text(text.substr(0, 4 * longest_line)).left(longest_line); // a unit takes at most 3 bytes
+}
 [[nodiscard]] inline std::string utf8(const QString& text) { return text.toStdString(); }
 
 // The low byte is red. Bits above the three colour bytes are ignored.

@@ -38,14 +38,14 @@ int RoosterModel::rowCount(const QModelIndex& parent) const { return parent.isVa
 int RoosterModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : grid_.columns(); }
 
 QVariant RoosterModel::data(const QModelIndex& index, int role) const {
-    if (role == Qt::DisplayRole) return qt_text(grid_.text(index.row() + titelrij, index.column()));
+    if (role == Qt::DisplayRole) return line_of_text(grid_.text(index.row() + titelrij, index.column()));
     if (role == Qt::TextAlignmentRole) return QVariant(uitlijning(grid_.column_alignment(index.column())));
     return {};
 }
 
 QVariant RoosterModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal) return {};
-    if (role == Qt::DisplayRole) return qt_text(grid_.text(0, section));
+    if (role == Qt::DisplayRole) return line_of_text(grid_.text(0, section));
     if (role == Qt::TextAlignmentRole) return QVariant(uitlijning(grid_.column_alignment(section)));
     return {};
 }

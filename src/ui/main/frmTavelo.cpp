@@ -52,12 +52,9 @@ constexpr int groen_ms = 500; // a re-read takes less than a frame: nobody would
 
 constexpr int hele_klik = 120; // a notch of the wheel, in eighths of a degree
 
-// A display server ends the program that sends it a caption of megabytes, and a caption holds what the file says.
-constexpr qsizetype langste_titel = 1000;
-
 // The toolkit takes "[*]" in a caption as its mark for unsaved work.
 QString venstertitel(std::string_view tekst) {
-    return qt_text(tekst).left(langste_titel).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    return line_of_text(tekst).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }
 
 QRect pixelvlak(const Rechthoek& r) {
@@ -81,8 +78,8 @@ QToolButton* maak_knop(QWidget* ouder, const QString& naam, const QString& toega
 
 // A screen reader hears what the text is about as well.
 void toon_tekst(QLabel& label, const QString& kop, std::string_view tekst) {
-    label.setText(qt_text(tekst));
-    label.setAccessibleName(kop + QStringLiteral(": ") + qt_text(tekst));
+    label.setText(line_of_text(tekst));
+    label.setAccessibleName(kop + QStringLiteral(": ") + label.text());
 }
 
 // Wider where the letter of the desktop asks for it.

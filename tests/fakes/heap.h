@@ -5,7 +5,7 @@
 
 namespace tavelo::test {
 
-// Bytes asked for with `new` and not given back yet, by the whole program.
+// Bytes that the program asked for and has not given back yet.
 [[nodiscard]] std::size_t heap_bytes();
 
 } // namespace tavelo::test

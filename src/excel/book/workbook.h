@@ -60,6 +60,13 @@ struct Sheet {
 // damaged: broken, or saved for a part only. too_large: what a reader refuses to unpack, a zip bomb for instance.
 enum class OpenFailure : std::uint8_t { not_found, unreadable, not_a_workbook, damaged, password, too_large };
 
+// A sheet with more stored cells than this is refused as too large: they would take more than 256 MB. A workbook with
+// more shared strings as well.
+inline constexpr std::size_t most_cells = std::size_t{1} << 23;
+inline constexpr std::size_t most_strings = most_cells;
+// Further sheets are left out. Excel itself stops at what memory holds; a workbook of people has some hundreds at most.
+inline constexpr std::size_t most_sheets = 65536;
+
 // An opened workbook. A sheet is read when it is asked for; the file itself is already closed.
 class Workbook {
   public:

@@ -5,6 +5,13 @@
 
 namespace tavelo {
 
+namespace {
+
+// The numbers that cells, styles and fonts are found by have 16 bits; no record beyond that can be meant.
+constexpr std::size_t most_records = 65536;
+
+} // namespace
+
 std::uint32_t FormatCodes::number_of(std::string_view code) {
     if (const auto known = numbers_.find(code); known != numbers_.end()) return known->second;
     const auto number = static_cast<std::uint32_t>(codes_.size());
@@ -14,6 +21,7 @@ std::uint32_t FormatCodes::number_of(std::string_view code) {
 }
 
 void CellStyles::take(const BiffRecord& record, BiffCursor& cursor, TextEncoding encoding) {
+    if (xfs_.size() == most_records || fonts_.size() == most_records || formats_.size() == most_records) return;
     switch (record.type) {
     case biff::format_2:
     case biff::format:

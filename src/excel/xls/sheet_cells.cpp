@@ -135,7 +135,7 @@ class SheetReader {
     SheetReader(BiffCursor cursor, const SheetContext& context, std::vector<std::string>& texts)
         : cursor_(cursor), context_(context), texts_(texts), widths_(context.digit_pixels) {}
 
-    Sheet read() {
+    std::expected<Sheet, OpenFailure> read() {
         std::size_t depth = 1;
         while (const auto record = cursor_.next()) {
             if (is_bof(record->type)) {
@@ -143,6 +143,8 @@ class SheetReader {
             } else if (record->type == biff::eof) {
                 if (--depth == 0) break;
             } else if (depth == 1) {
+                // One record has a row's cells at most.
+                if (sheet_.cells.size() > most_cells - most_columns) return std::unexpected(OpenFailure::too_large);
                 take(*record);
             }
         }
@@ -409,7 +411,8 @@ void SheetReader::finish() {
 
 } // namespace
 
-Sheet read_sheet_cells(BiffCursor cursor, const SheetContext& context, std::vector<std::string>& texts) {
+std::expected<Sheet, OpenFailure> read_sheet_cells(BiffCursor cursor, const SheetContext& context,
+                                                   std::vector<std::string>& texts) {
     return SheetReader(cursor, context, texts).read();
 }
 

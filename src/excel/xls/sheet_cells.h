@@ -5,6 +5,7 @@
 #include "excel/xls/biff_stream.h"
 
 #include <cstdint>
+#include <expected>
 #include <span>
 #include <string>
 #include <vector>
@@ -20,7 +21,8 @@ struct SheetContext {
 };
 
 // Reads behind the sheet's BOF record up to its end, or to the end of the stream. Substreams inside (charts) are passed
-// over. Texts that are no shared strings are added to `texts`.
-[[nodiscard]] Sheet read_sheet_cells(BiffCursor cursor, const SheetContext& context, std::vector<std::string>& texts);
+// over. Texts that are no shared strings are added to `texts`. Fails on more than most_cells only.
+[[nodiscard]] std::expected<Sheet, OpenFailure> read_sheet_cells(BiffCursor cursor, const SheetContext& context,
+                                                                 std::vector<std::string>& texts);
 
 } // namespace tavelo

@@ -44,6 +44,7 @@ class XlsWorkbook final : public Workbook {
     FormatCodes formats_;
     std::vector<std::string> texts_; // the shared strings, then the texts of the sheets that were read
     std::size_t shared_strings_ = 0;
+    bool too_many_strings_ = false;
     bool dates_from_1904_ = false;
 };
 
@@ -71,7 +72,7 @@ std::expected<void, OpenFailure> XlsWorkbook::read_globals() {
     std::string bundle_name; // BIFF4 workbooks have the sheets inside, each behind a record with its name
     for (std::size_t place = cursor.place(); const auto record = cursor.next(); place = cursor.place()) {
         if (is_bof(record->type)) {
-            if (depth == 1 && kind == SubstreamKind::book_4)
+            if (depth == 1 && kind == SubstreamKind::book_4 && sheets_.size() < most_sheets)
                 add_sheet(std::exchange(bundle_name, {}), kind_of_sheet(kind_of_bof(*record)), place);
             ++depth;
         } else if (record->type == biff::eof) {
@@ -88,6 +89,7 @@ std::expected<void, OpenFailure> XlsWorkbook::read_globals() {
 
     const bool is_one_sheet = kind != SubstreamKind::globals && kind != SubstreamKind::book_4;
     if (is_one_sheet) add_sheet(std::string(only_sheet_name), kind_of_sheet(kind), 0);
+    if (too_many_strings_) return std::unexpected(OpenFailure::too_large);
     if (sheets_.empty()) return std::unexpected(OpenFailure::damaged);
     return {};
 }
@@ -101,7 +103,7 @@ void XlsWorkbook::take_global(const BiffRecord& record, BiffCursor& cursor) {
         dates_from_1904_ = word_at(record.data, 0) != 0;
         break;
     case biff::boundsheet:
-        take_sheet_name(record, cursor);
+        if (sheets_.size() < most_sheets) take_sheet_name(record, cursor);
         break;
     case biff::sst:
         take_shared_strings(record, cursor);
@@ -134,6 +136,10 @@ void XlsWorkbook::take_shared_strings(const BiffRecord& record, BiffCursor& curs
     BiffText text(cursor, record.data);
     text.skip(counts);
     while (!text.at_end()) {
+        if (texts_.size() == most_strings) {
+            too_many_strings_ = true;
+            return;
+        }
         const std::size_t length = text.word();
         texts_.push_back(text.string(length, encoding_));
     }

@@ -16,8 +16,6 @@ namespace tavelo {
 
 class Package;
 
-// A sheet with more stored cells than this is refused as too large: they would take more than 256 MB.
-inline constexpr std::size_t most_cells = std::size_t{1} << 23;
 inline constexpr std::uint32_t sheet_rows = 1048576;
 inline constexpr std::uint32_t sheet_columns = 16384;
 

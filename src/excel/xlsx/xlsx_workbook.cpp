@@ -16,10 +16,6 @@ namespace tavelo {
 
 namespace {
 
-// As many strings as a sheet may have cells; more are refused as too large.
-constexpr std::size_t most_strings = most_cells;
-// Excel itself stops at what memory holds; a workbook of people has some hundreds at most.
-constexpr std::size_t most_sheets = 65536;
 
 struct SheetEntry {
     std::string name;

@@ -49,6 +49,30 @@ Shown under_code_page(unsigned code_page, std::string_view bytes) {
 
 } // namespace
 
+TEST(XlsWerkmap, aantallen_die_geen_werkmap_heeft_worden_niet_onthouden) {
+    std::string names;
+    for (std::size_t i = 0; i < most_sheets; ++i)
+        names.append("\x85\0\x08\0\0\0\0\0\0\0\0\0", 12);
+    const auto workbook = open_xls(sheet_8(number(0, 0, 1), Bytes().narrow(names)).bytes());
+    ASSERT_TRUE(workbook.has_value());
+    EXPECT_EQ((*workbook)->sheets().size(), most_sheets);
+}
+
+TEST(XlsWerkmap, een_blad_met_te_veel_cellen_is_te_groot) {
+    const std::vector<std::byte> full_row = Bytes().record(0x00BD, Bytes().zeros(4 + 256 * 6 + 2)).bytes();
+    std::vector<std::byte> file = sheet_8({}).bytes();
+    constexpr std::size_t end_record = 4;
+    file.resize(file.size() - end_record);
+    file.reserve(file.size() + (most_cells / 256 + 1) * full_row.size());
+    for (std::size_t count = 0; count <= most_cells; count += 256)
+        file.insert(file.end(), full_row.begin(), full_row.end());
+    const auto workbook = open_xls(std::move(file));
+    ASSERT_TRUE(workbook.has_value());
+    const auto sheet = (*workbook)->read_sheet(0);
+    ASSERT_FALSE(sheet.has_value());
+    EXPECT_EQ(sheet.error(), OpenFailure::too_large);
+}
+
 TEST(XlsWerkmap, de_bladen_staan_in_hun_volgorde_met_hun_soort) {
     Bytes dialog;
     dialog.record(0x0081, Bytes().u16(0x0010));

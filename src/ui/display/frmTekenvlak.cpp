@@ -7,6 +7,13 @@
 
 namespace tavelo {
 
+namespace {
+
+// More letters of the smallest size than the widest screen holds.
+constexpr qsizetype langste_regel = 50'000;
+
+} // namespace
+
 void schilder(QPainter& schilder, const QRectF& gebied, const Tekenvlak& vlak) {
     schilder.fillRect(gebied, qt_colour(vlak.achtergrond));
     schilder.setPen(qt_colour(vlak.voorgrond));
@@ -21,7 +28,7 @@ void schilder(QPainter& schilder, const QRectF& gebied, const Tekenvlak& vlak) {
             stijging = QFontMetricsF(font, schilder.device()).ascent();
         }
         const QPointF basis(regel.x / twips_per_pixel, regel.y / twips_per_pixel + stijging);
-        schilder.drawText(basis, qt_text(regel.tekst));
+        schilder.drawText(basis, qt_text(regel.tekst).left(langste_regel));
     }
 }
 

@@ -24,6 +24,12 @@ TEST(FontTextMeasure, arial_meet_in_twips_zoals_zijn_ontwerp_zegt) {
     EXPECT_NEAR(meter.height("Arial", 32), 32 * 20 * 2288.0 / 2048, 2);
 }
 
+TEST(FontTextMeasure, een_tekst_zonder_einde_is_zo_breed_als_zijn_letters) {
+    const FontTextMeasure meter;
+    const double letter = meter.width("Arial", 1, "x");
+    EXPECT_NEAR(meter.width("Arial", 1, std::string(25'000, 'x')), 25'000 * letter, 1e-6 * letter);
+}
+
 TEST(FontTextMeasure, een_lege_tekst_heeft_geen_breedte_en_een_onbekende_letter_meet_als_zijn_vervanger) {
     const FontTextMeasure meter;
     EXPECT_EQ(meter.width("Arial", 10, ""), 0);

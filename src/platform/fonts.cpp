@@ -4,6 +4,8 @@
 
 #include <QPaintDevice>
 
+#include <algorithm>
+
 namespace tavelo {
 
 namespace {
@@ -28,12 +30,16 @@ QFont display_font(std::string_view family, double points, const QPaintDevice& d
 }
 
 double FontTextMeasure::width(std::string_view font, double points, std::string_view text) const {
-    // In pieces: the toolkit takes fifty times the memory of a text to lay it out.
+    // In pieces: the toolkit takes fifty times the memory of a text to lay it out. What is longer than any monitor is
+    // wide, in the smallest letter, is taken to go on as it begins.
     constexpr qsizetype piece = 10'000;
+    constexpr qsizetype long_enough = 50'000;
     const QString whole = qt_text(text);
+    const qsizetype measured = std::min(whole.size(), long_enough);
     double width = 0;
-    for (qsizetype at = 0; at < whole.size(); at += piece)
-        width += metrics(font).horizontalAdvance(whole.mid(at, piece));
+    for (qsizetype at = 0; at < measured; at += piece)
+        width += metrics(font).horizontalAdvance(whole.mid(at, std::min(piece, measured - at)));
+    if (measured < whole.size()) width *= static_cast<double>(whole.size()) / static_cast<double>(measured);
     return width * twips_per_reference_pixel * points;
 }
 

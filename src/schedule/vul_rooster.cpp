@@ -67,7 +67,7 @@ class Vuller {
         cellen[kolom_inr] = inr;
         std::int32_t minuten = 0;
         if (const std::string& deelnemer = doel_.schedule.deelnemer(n); n > 0 && !deelnemer.empty())
-            vul_combinatie(cellen, n, deelnemer);
+            vul_combinatie(cellen, n, deelnemer, doel_.grid.rows());
         else
             minuten = vul_pauze(cellen, inr, bijbehorend[0], bijbehorend[1]);
         const int rij = doel_.grid.append_row(std::move(cellen));
@@ -82,6 +82,23 @@ class Vuller {
         const std::optional<std::int32_t> minuten = int32_of(lengte.value_or(""));
         if (!minuten) meld("dnr", fout_overloop);
         return minuten.value_or(0);
+    }
+
+    // A combination may stand in a start list any number of times; its record, of any size, is taken apart once.
+    void vul_combinatie(Cellen& cellen, int n, std::string_view deelnemer, int rij) {
+        if (rubriek_.rid != rid_ || rubriek_.rcom != rcom_) {
+            rid_ = rubriek_.rid;
+            rcom_ = rubriek_.rcom;
+            eerste_rijen_.assign(eerste_rijen_.size(), 0);
+        }
+        int& eerste_rij = eerste_rijen_[static_cast<std::size_t>(n)];
+        if (eerste_rij == 0) {
+            eerste_rij = rij;
+            vul_combinatie(cellen, n, deelnemer);
+            return;
+        }
+        for (int kolom = kolom_hnr; kolom <= kolom_laatste; ++kolom)
+            cellen[static_cast<std::size_t>(kolom)] = doel_.grid.text(eerste_rij, kolom);
     }
 
     void vul_combinatie(Cellen& cellen, int n, std::string_view deelnemer) const {
@@ -112,6 +129,11 @@ class Vuller {
     const RoosterDoel& doel_;
     RubriekRecord& rubriek_;
     std::string fout_;
+
+    // Row in which each number stood first, 0 for none, as long as these two of the class stay the same.
+    std::vector<int> eerste_rijen_ = std::vector<int>(hoogste_deelnemer + 1);
+    std::string rid_;
+    std::int16_t rcom_ = 0;
 };
 
 } // namespace

@@ -50,6 +50,16 @@ TEST(VulRooster, de_rijen_staan_in_de_volgorde_van_het_record) {
     EXPECT_EQ(proef.schedule.huidige_rubriek.roms, "Finale");
 }
 
+TEST(VulRooster, een_combinatie_die_vaker_start_heeft_gelijke_rijen_zolang_de_rubriek_dezelfde_is) {
+    Roosterproef proef;
+    proef.schedule.zet_deelnemer(12, "na:Jan\thnr:7\tpa:Bles\tva:Vonk\tve:De Hoef\tdk:L\tsk:B\tca:B\trhc:b(1)");
+    proef.vul("rcom:0\trid:a" + deelname("12") + deelname("12 ") + "\trid:b" + deelname("12") + "\trcom:1" +
+              deelname("12"));
+    EXPECT_EQ(test::row_texts(proef.grid, 2), test::row_texts(proef.grid, 1));
+    EXPECT_EQ(test::column_texts(proef.grid, kolom_hc), (Texts{"", "", "(HC)", "(HC)"}));
+    EXPECT_EQ(test::column_texts(proef.grid, kolom_kl), (Texts{"L", "L", "L", "B"}));
+}
+
 TEST(VulRooster, een_leeg_record_maakt_het_grid_leeg_maar_laat_omschrijving_en_titels_staan) {
     Roosterproef proef;
     proef.vul("roms:Finale\trjp1:C\trtype:Baan" + deelname("1"));

@@ -16,7 +16,6 @@ namespace tavelo {
 
 namespace {
 
-
 struct SheetEntry {
     std::string name;
     std::string relationship;

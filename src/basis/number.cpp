@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 
 namespace tavelo {
@@ -55,6 +56,26 @@ std::size_t decimal_length(std::string_view text) {
     return at;
 }
 
+// The value of a number that a double cannot hold: too small is zero, too large infinity, which fits no field. The
+// place of the first digit that counts decides together with the exponent; either may be of any length.
+double beyond_range(std::string_view number) {
+    const std::size_t mantissa = std::min(number.find_first_of("eE"), number.size());
+    const std::string_view digits = number.substr(0, mantissa);
+    const auto point = static_cast<std::ptrdiff_t>(std::min(digits.find('.'), digits.size()));
+    const auto first = static_cast<std::ptrdiff_t>(digits.find_first_of("123456789"));
+    std::ptrdiff_t exponent = 0;
+    if (mantissa < number.size()) {
+        std::string_view written = number.substr(mantissa + 1);
+        if (written.starts_with('+')) written.remove_prefix(1);
+        const auto result = std::from_chars(written.data(), written.data() + written.size(), exponent);
+        if (result.ec == std::errc::result_out_of_range) {
+            constexpr std::ptrdiff_t beyond_any_text = std::numeric_limits<std::ptrdiff_t>::max() / 2;
+            exponent = written.starts_with('-') ? -beyond_any_text : beyond_any_text;
+        }
+    }
+    return exponent < first - point ? 0 : std::numeric_limits<double>::infinity();
+}
+
 template <class Integer>
 std::optional<Integer> fitted(double value) {
     const double rounded = round_half_even(value);
@@ -89,12 +110,7 @@ std::optional<double> number_in(std::string_view text) {
     }
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ec == std::errc::result_out_of_range) {
-        // from_chars leaves the value alone: too small is zero, too large infinity, which fits no field.
-        const std::size_t exponent = text.find_first_of("eE");
-        const bool tiny = exponent != std::string_view::npos && text[exponent + 1] == '-';
-        value = tiny ? 0 : std::numeric_limits<double>::infinity();
-    }
+    if (result.ec == std::errc::result_out_of_range) value = beyond_range(text); // from_chars left it alone
     return negative ? -value : value;
 }
 

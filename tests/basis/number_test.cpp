@@ -59,9 +59,22 @@ TEST(Number, een_getal_zonder_eind_past_nergens) {
     EXPECT_EQ(leading_number("1e999"), std::numeric_limits<double>::infinity());
     EXPECT_EQ(leading_number("-1e999"), -std::numeric_limits<double>::infinity());
     EXPECT_EQ(leading_number("1e-999"), 0);
+    EXPECT_EQ(leading_number("1e99999999999999999999"), std::numeric_limits<double>::infinity());
+    EXPECT_EQ(leading_number("1e-99999999999999999999"), 0);
     EXPECT_EQ(int32_of("1e999"), std::nullopt);
     EXPECT_EQ(int32_of(std::string(100'000, '9')), std::nullopt);
     EXPECT_EQ(int16_of("&H" + std::string(100'000, 'F')), std::nullopt);
+}
+
+TEST(Number, niet_de_macht_alleen_zegt_hoe_groot_een_getal_is) {
+    const std::string nullen(400, '0');
+    EXPECT_EQ(leading_number("0." + nullen + "1"), 0);
+    EXPECT_EQ(leading_number("0." + nullen + "1e9"), 0);
+    EXPECT_EQ(leading_number("0." + nullen + "1e401"), 1);
+    EXPECT_EQ(leading_number("1" + nullen + "e-5"), std::numeric_limits<double>::infinity());
+    EXPECT_EQ(leading_number("1" + nullen + ".5"), std::numeric_limits<double>::infinity());
+    EXPECT_EQ(leading_number("1" + nullen + "e-400"), 1);
+    EXPECT_EQ(leading_number(nullen + "1e-999"), 0);
 }
 
 TEST(Number, halven_worden_afgerond_naar_even) {

@@ -226,6 +226,16 @@ TEST(LeesRooster, regels_staan_in_elke_volgorde_en_de_laatste_wint) {
     EXPECT_EQ(proef.cel(1, kolom_cnr), "K1");
 }
 
+TEST(LeesRooster, een_regel_met_een_leeg_record_leegt_het_vorige) {
+    GelezenProef proef;
+    ASSERT_TRUE(proef.lees({"dnr:5\t", "rubriek:7\t", "rnr:8\troms:Finale" + test::deelname("5"), "rnr:9\t"}));
+    EXPECT_EQ(proef.schedule.deelnemer(5), "");
+    EXPECT_EQ(proef.schedule.rubriek(7), RubriekLijstRecord());
+    EXPECT_EQ(proef.schedule.rubriek_nummer, 9);
+    EXPECT_EQ(proef.schedule.rubriek_record, "");
+    EXPECT_EQ(proef.grid.rows(), 1);
+}
+
 TEST(LeesRooster, een_tweede_bestand_laat_de_nummers_staan_die_het_niet_noemt) {
     Roosterproef proef;
     ASSERT_TRUE(proef.lees({"dnr:1\tna:Een", "dnr:2\tna:Twee", "rubriek:1\toms:A", "rubriek:2\toms:B"}));
@@ -255,6 +265,13 @@ TEST(LeesRooster, het_bijschrift_zoekt_zijn_sleutels_letterlijk) {
     EXPECT_EQ(proef.lees({"rnr:1\tRKLA :L\trcom:2\tRoms:Finale"}).value(),
               " spr. cat      -     " + proef.map.file("proef.rst") + "     -     ");
     EXPECT_EQ(proef.schedule.huidige_rubriek.rkla, "L");
+}
+
+TEST(LeesRooster, het_bijschrift_neemt_de_eerste_van_gelijke_sleutels_maar_de_discipline_van_de_gelezen_rubriek) {
+    Roosterproef proef;
+    EXPECT_EQ(proef.lees({"rnr:1\trkla:L\trcat:A\troms:Een\trcom:1\trkla:M\trcat:B\troms:Twee\tRCOM :7"}).value(),
+              "L mendr. cat A     -     " + proef.map.file("proef.rst") + "     -     Een");
+    EXPECT_EQ(proef.labels.lblRoosterOmschrijving, "Ring, Twee");
 }
 
 TEST(LeesRooster, rij_1_kolom_1_wordt_de_huidige_cel) {

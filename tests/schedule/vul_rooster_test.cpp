@@ -79,6 +79,12 @@ TEST(VulRooster, een_leeg_record_maakt_het_grid_leeg_maar_laat_omschrijving_en_t
     EXPECT_EQ(rubriek.rjp[0], "");
 }
 
+TEST(VulRooster, ook_een_leeg_record_geeft_het_grid_zijn_kolommen) {
+    Roosterproef proef;
+    proef.vul("");
+    EXPECT_EQ(test::all_texts(proef.grid), std::vector<Texts>{Texts(11)});
+}
+
 TEST(VulRooster, de_omschrijving_bestaat_uit_soort_ring_en_tekst) {
     Roosterproef proef;
     const auto omschrijving = [&](std::string_view record) {
@@ -97,6 +103,30 @@ TEST(VulRooster, sleutels_worden_getrimd_en_in_elke_schrijfwijze_gelezen) {
     proef.vul("RKLA :L\t rOms : Finale \tonbekend:x\tlos\trkla9:y");
     EXPECT_EQ(proef.schedule.huidige_rubriek.rkla, "L");
     EXPECT_EQ(proef.schedule.huidige_rubriek.roms, "Finale");
+}
+
+TEST(VulRooster, ook_de_sleutel_van_een_deelname_wordt_getrimd_en_in_elke_schrijfwijze_gelezen) {
+    Roosterproef proef;
+    proef.schedule.zet_deelnemer(12, "na:Jan");
+    proef.vul(" DNR : 12 \t\t\t\t\t\t\tDnr:p\troms:a\troms:b\troms:c\troms:d\troms:e\troms:f\trring:3");
+    EXPECT_EQ(test::column_texts(proef.grid, kolom_inr), (Texts{"12", "p"}));
+    EXPECT_EQ(proef.cel(1, kolom_naam), "Jan");
+    EXPECT_EQ(proef.labels.lblRoosterOmschrijving, "Ring 3, ");
+}
+
+TEST(VulRooster, een_deelname_zonder_dubbele_punt_is_er_geen) {
+    Roosterproef proef;
+    proef.vul("dnr\troms:Finale");
+    EXPECT_EQ(proef.grid.rows(), 1);
+    EXPECT_EQ(proef.schedule.huidige_rubriek.roms, "Finale");
+}
+
+TEST(VulRooster, van_een_herhaalde_sleutel_telt_de_laatste_en_een_waarde_loopt_tot_de_tab) {
+    Roosterproef proef;
+    proef.vul("roms:Eerste\trtvk:3\trjp1:C\troms:Finale: deel 2\trtvk:x\trjp1:");
+    EXPECT_EQ(proef.labels.lblRoosterOmschrijving, "Ring, Finale: deel 2");
+    EXPECT_EQ(proef.schedule.huidige_rubriek.rtvk, 0);
+    EXPECT_EQ(proef.schedule.huidige_rubriek.rjp[0], "");
 }
 
 TEST(VulRooster, sleutels_van_een_combinatie_zijn_letterlijk) {

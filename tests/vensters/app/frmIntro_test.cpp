@@ -19,6 +19,7 @@ TEST(FrmIntro, begint_doorzichtig_en_wordt_helder_voor_hij_vanzelf_sluit) {
     intro.open();
     EXPECT_TRUE(QTest::qWaitFor([&] { return intro.windowOpacity() == 1; }, 2500));
     EXPECT_TRUE(intro.isVisible());
+    EXPECT_FALSE(intro.findChild<QTimer*>("Timer2")->isActive());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !intro.isVisible(); }, 10000));
     EXPECT_GE(klok.elapsed(), 2990);
 }

@@ -607,6 +607,13 @@ TEST_F(FrmTaveloWiel, het_wiel_gaat_naar_wat_onder_de_aanwijzer_staat) {
     EXPECT_EQ(venster->focusWidget(), &grdRooster());
 }
 
+TEST_F(FrmTaveloWiel, na_het_sluiten_is_het_wiel_los) {
+    venster->close();
+    venster->show();
+    draai(vind("picDeelnemer"), grdRooster(), -120);
+    EXPECT_EQ(bovenste(), 1);
+}
+
 TEST_F(FrmTaveloWiel, met_de_laatste_rij_in_beeld_gaat_het_niet_verder) {
     grdRooster().verticalScrollBar()->setValue(grdRooster().verticalScrollBar()->maximum());
     const int einde = bovenste();

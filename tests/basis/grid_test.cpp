@@ -63,6 +63,31 @@ TEST(Grid, meer_rijen_en_kolommen_zijn_leeg_en_minder_laten_de_rest_staan) {
     EXPECT_EQ(grid.rows(), 0);
 }
 
+TEST(Grid, een_rij_of_kolom_die_terugkomt_is_leeg) {
+    Grid grid = grid_van(1, 2);
+    const auto vul = [&] {
+        const int rij = grid.append_row({"x", "y"});
+        grid.set_row_value(rij, 7);
+    };
+    vul();
+    grid.set_rows(1);
+    grid.set_rows(2);
+    EXPECT_EQ(test::row_texts(grid, 1), Texts(2));
+    EXPECT_EQ(grid.row_value(1), 0);
+
+    grid.set_rows(1);
+    vul();
+    grid.set_columns(1);
+    grid.set_columns(2);
+    EXPECT_EQ(test::row_texts(grid, 1), (Texts{"x", ""}));
+
+    vul();
+    grid.remove_row(2);
+    grid.append_row();
+    EXPECT_EQ(test::row_texts(grid, 2), Texts(2));
+    EXPECT_EQ(grid.row_value(2), 0);
+}
+
 TEST(Grid, een_rij_wordt_ingevoegd_voor_haar_plaats_en_anders_achteraan) {
     Grid grid = grid_met("ab");
     grid.set_row_value(2, 7);
@@ -72,6 +97,10 @@ TEST(Grid, een_rij_wordt_ingevoegd_voor_haar_plaats_en_anders_achteraan) {
     EXPECT_EQ(test::column_texts(grid, 0), (Texts{"", "a", "n", "b", "z"}));
     EXPECT_EQ(grid.row_value(3), 0);
     EXPECT_EQ(grid.row_value(4), 7); // goes along with its row
+    grid.remove_row(2);
+    EXPECT_EQ(test::column_texts(grid, 0), (Texts{"", "n", "b", "z"}));
+    EXPECT_EQ(grid.row_value(3), 7);
+    EXPECT_EQ(grid.row_value(4), 0);
 }
 
 TEST(Grid, de_huidige_cel_blijft_binnen_het_grid) {

@@ -90,6 +90,20 @@ TEST(Text, windows_1252_wordt_gelezen_met_zijn_vijf_lege_plaatsen) {
     EXPECT_EQ(from_windows_1252(std::string_view("a\0b\x1A", 4)), std::string("a\0b\x1A", 4));
 }
 
+TEST(Text, een_vreemde_letter_wordt_op_elke_plaats_in_een_lange_tekst_gevonden) {
+    for (std::size_t lengte = 0; lengte < 40; ++lengte) {
+        for (std::size_t plaats = 0; plaats <= lengte; ++plaats) {
+            const auto om = [&](char letter, std::string_view midden) {
+                return std::string(plaats, letter).append(midden).append(lengte - plaats, letter);
+            };
+            ASSERT_EQ(from_windows_1252(om('Q', "\xC9")), om('Q', "É"));
+            ASSERT_EQ(lower_case(om('Q', "É")), om('q', "é"));
+            ASSERT_EQ(upper_case(om('q', "é")), om('Q', "É"));
+            ASSERT_EQ(trimmed(" " + om('Q', "É") + "  "), om('Q', "É"));
+        }
+    }
+}
+
 TEST(Text, code_points_lezen_utf_8_en_melden_wat_het_niet_is) {
     EXPECT_EQ(code_points("aé€😀"), U"aé€😀");
     EXPECT_EQ(code_points("\xC0\x80"), U"\xFFFD\xFFFD");           // overlong

@@ -1,9 +1,14 @@
 #include "schedule/lees_rooster.h"
 
 #include "basis/codeBestand.h"
+#include "basis/number.h"
+#include "basis/text.h"
 #include "schedule/roosterproef.h"
+#include "schedule/toeval.h"
 
 #include <gtest/gtest.h>
+
+#include <iostream>
 
 namespace tavelo {
 namespace {
@@ -296,6 +301,30 @@ TEST(LeesRooster, een_regel_eindigt_op_cr_lf_op_lf_en_op_cr) {
     for (const auto& [nummer, record] :
          {std::pair{1, "na:a"}, std::pair{2, "na:b"}, std::pair{3, "na:c"}, std::pair{4, "na:d"}})
         EXPECT_EQ(gemengd.schedule.deelnemer(nummer), record);
+}
+
+TEST(LeesRooster, elke_mengeling_van_regeleinden_geeft_dezelfde_regels) {
+    const std::vector<std::string> stukken = {"\r", "\n", "\r\n", "\n\r", "\r\r\n", "x", "dnr:", ":", "\t", ""};
+    const std::uint32_t begin = test::beginwaarde(1252);
+    std::cout << "TAVELO_SEED=" << begin << '\n';
+    test::Toeval toeval(begin);
+    for (int keer = 0; keer < 2000; ++keer) {
+        std::string tekst;
+        for (int delen = toeval.onder(25); delen > 0; --delen)
+            tekst += toeval.een_op(3) ? toeval.uit(stukken)
+                                      : "dnr:" + std::to_string(toeval.onder(10)) + "\tna:" + std::to_string(delen) +
+                                            toeval.uit(stukken);
+        Schedule verwacht;
+        const std::string met_lf = replaced(replaced(tekst, "\r\n", "\n"), "\r", "\n");
+        for (const std::string_view regel : split(met_lf, "\n"))
+            if (const std::size_t tab = regel.find('\t'); regel.starts_with("dnr:") && tab != std::string_view::npos)
+                verwacht.zet_deelnemer(int16_of(regel.substr(4, tab - 4)).value(), std::string(regel.substr(tab + 1)));
+
+        Roosterproef proef;
+        lees_regels(tekst, proef.schedule, proef.berichten, proef.logboek);
+        for (int n = 0; n < 10; ++n)
+            ASSERT_EQ(proef.schedule.deelnemer(n), verwacht.deelnemer(n)) << n << " in " << tekst;
+    }
 }
 
 TEST(LeesRooster, een_byte_1a_of_00_is_een_gewoon_teken) {

@@ -1,6 +1,10 @@
 #include "schedule/record/items.h"
 
+#include "schedule/toeval.h"
+
 #include <gtest/gtest.h>
+
+#include <iostream>
 
 namespace tavelo {
 namespace {
@@ -47,6 +51,39 @@ TEST(Items, een_gedeeld_record_antwoordt_als_zoek_waarde) {
         for (int i = 0; i < 100; ++i) {
             const std::string sleutel = "k" + std::to_string(i);
             EXPECT_EQ(items.waarde(sleutel), zoek_waarde(sleutel, record)) << sleutel;
+        }
+    }
+}
+
+TEST(Items, in_elk_record_is_zoeken_hetzelfde_als_zoeken_tussen_twee_tabs) {
+    const auto tussen_tabs = [](std::string_view sleutel, std::string_view record) {
+        const std::string lijst = "\t" + std::string(record) + "\t";
+        const std::string gezocht = "\t" + std::string(sleutel) + ":";
+        const std::size_t plaats = lijst.find(gezocht);
+        if (plaats == std::string::npos) return std::string();
+        const std::size_t begin = plaats + gezocht.size();
+        return lijst.substr(begin, lijst.find('\t', begin) - begin);
+    };
+    // Keys that begin alike, are each other's tail, or differ by case alone.
+    const std::vector<std::string> sleutels = {"co",    "d_co", "coup",   "d_coup", "co1", "CO", "c",   "di_st",
+                                               "di_sa", "di_s", "di_str", "é",      "na",  "pa", "mva", "va"};
+    const std::vector<std::string> losse_delen = {"", " ", "\t", "\t\t", ":", ":x", "co", "co :1", " co:1", "a:b:c"};
+    const std::uint32_t begin = test::beginwaarde(1811);
+    std::cout << "TAVELO_SEED=" << begin << '\n';
+    test::Toeval toeval(begin);
+    for (int keer = 0; keer < 2000; ++keer) {
+        std::string record;
+        for (int items = toeval.onder(toeval.een_op(10) ? 300 : 12); items > 0; --items) {
+            if (!record.empty() && !toeval.een_op(20)) record += '\t';
+            record += toeval.een_op(4) ? toeval.uit(losse_delen)
+                                       : toeval.uit(sleutels) + ":" + std::to_string(toeval.onder(3));
+        }
+        const RecordItems gedeeld(record);
+        for (const std::string& sleutel : sleutels) {
+            const std::string verwacht = tussen_tabs(sleutel, record);
+            ASSERT_EQ(zoek_waarde(sleutel, record), verwacht) << sleutel << " in " << record;
+            ASSERT_EQ(gedeeld.waarde(sleutel), verwacht) << sleutel << " in " << record;
+            ASSERT_EQ(gedeeld.staat_aan(sleutel), verwacht == "1");
         }
     }
 }

@@ -1,7 +1,10 @@
 #include "schedule/record/rubriek_record.h"
 
+#include "basis/text.h"
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <type_traits>
 
@@ -188,6 +191,22 @@ TEST(RubriekLijst, sleutels_in_elke_volgorde_en_schrijfwijze_en_waarden_ongetrim
     EXPECT_EQ(entry.oms, " Finale: ");
     EXPECT_EQ(entry.id, "2"); // a repeated key overwrites
     EXPECT_EQ(entry.com, 12);
+}
+
+TEST(RubriekLijst, de_volgorde_van_de_sleutels_maakt_niet_uit) {
+    std::vector<std::string> items = {"id:a",  "vpn:b", "oms:c", "dis:d", "discode:e", "klasse:f", "cat:g",
+                                      "ilg:h", "pid:i", "ptd:j", "dtm:k", "com:1",     "mop:2",    "edit:3"};
+    const RubriekLijstRecord verwacht{"a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k", 1, 2, 3};
+    for (std::size_t keer = 0; keer < items.size(); ++keer) {
+        std::ranges::rotate(items, items.begin() + 1);
+        for (const bool achterstevoren : {false, true}) {
+            std::vector<std::string> volgorde = items;
+            if (achterstevoren) std::ranges::reverse(volgorde);
+            RubriekLijstRecord entry;
+            ASSERT_TRUE(lees_rubriek_lijst(join(volgorde, "\t"), entry));
+            EXPECT_EQ(entry, verwacht) << join(volgorde, " ");
+        }
+    }
 }
 
 TEST(RubriekLijst, bij_een_getal_dat_niet_past_houdt_het_lezen_op) {

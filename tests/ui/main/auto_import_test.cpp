@@ -72,6 +72,7 @@ TEST(AutoImport, een_nieuwer_bestand_wordt_herlezen_onder_een_groen_label) {
     EXPECT_EQ(proef.programma.labels.lblRoosterOmschrijving, "Ring, Slot");
     EXPECT_EQ(proef.programma.grdRooster.text(1, kolom_nrtijd), "10:00");
     EXPECT_EQ(proef.muisaanwijzer.depth, 0);
+    EXPECT_EQ(proef.muisaanwijzer.times_busy, 2); // once to open, once to read again
     EXPECT_EQ(proef.verslag.regels.size(), 2U);
 }
 

@@ -2,6 +2,7 @@
 
 #include "basis/codeBestand.h"
 #include "basis/number.h"
+#include "basis/scoped.h"
 #include "basis/text.h"
 #include "schedule/record/kolommen.h"
 #include "vocabulary/rubriek_woorden.h"
@@ -114,13 +115,11 @@ bool lees_bestand_met_excel(std::string_view bestand, int blad, Grid& grid, Exce
 bool lees_excel(std::string_view bestand, int blad, Grid& grid, ExcelApplication& excel, MessageBox& berichten,
                 Pointer& muisaanwijzer) {
     const BusyPointer bezig(muisaanwijzer);
-    grid.set_redraw(false);
+    const WithoutRedraw ongezien(grid);
     maak_leeg(grid);
     const std::string extensie = bestand_extensie(bestand);
     const bool is_excel = extensie == "xls" || extensie == "xlsx";
-    const bool laatste = !is_excel || lees_bestand_met_excel(bestand, blad, grid, excel, berichten);
-    grid.set_redraw(true);
-    return laatste;
+    return !is_excel || lees_bestand_met_excel(bestand, blad, grid, excel, berichten);
 }
 
 std::string excel_kolom(const Grid& bron, int rij, std::string_view kolom_letter) {
@@ -139,7 +138,7 @@ void vul_xls_rooster(Grid& doel, const Grid& bron, Meldingen meldingen, Programm
     {
         rubriek_leeg(doel, programma.schedule, programma.labels);
         const BusyPointer bezig(muisaanwijzer);
-        doel.set_redraw(false);
+        const WithoutRedraw ongezien(doel);
         doel.set_columns(kolom_laatste + 1);
         for (int i = 0; i < bron.rows(); ++i) {
             const int rij = doel.append_row();
@@ -154,7 +153,6 @@ void vul_xls_rooster(Grid& doel, const Grid& bron, Meldingen meldingen, Programm
         }
         for (int kolom = 0; kolom <= kolom_laatste; ++kolom)
             doel.set_text(0, kolom, kolom_titels[static_cast<std::size_t>(kolom)]);
-        doel.set_redraw(true);
     }
     if (geen_startnummers && geen_namen && meldingen == Meldingen::tonen) berichten.show(melding_kolommen);
 }

@@ -1,6 +1,7 @@
 #include "ui/main/auto_import.h"
 
 #include "basis/codeDatumTijd.h"
+#include "basis/scoped.h"
 #include "schedule/lees_rooster.h"
 #include "vocabulary/rubriek_woorden.h"
 
@@ -39,10 +40,11 @@ void auto_import(Bediening& bediening, const std::function<void()>& toon_label, 
         bestand_tijdstempel(bediening.omgeving.tijdstempels, p.rooster_bestand, tijdstempel_vorm);
     if (stempel <= p.rooster_tijdstempel) return;
 
-    p.herlezen_bezig = true;
-    toon_label();
-    herlees(bediening, stempel, wijzigingen);
-    p.herlezen_bezig = false;
+    {
+        const ScopedFlag bezig(p.herlezen_bezig, true);
+        toon_label();
+        herlees(bediening, stempel, wijzigingen);
+    }
     toon_label();
 }
 

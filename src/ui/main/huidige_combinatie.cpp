@@ -1,6 +1,7 @@
 #include "ui/main/huidige_combinatie.h"
 
 #include "basis/number.h"
+#include "basis/scoped.h"
 #include "schedule/record/kolommen.h"
 #include "ui/display/codeOpmaak.h"
 
@@ -77,11 +78,10 @@ void kies_rij(Bediening& bediening) {
     Programma& p = bediening.programma;
     const int rij = p.grdRooster.row();
     if (rij < 1) return;
-    p.zoek_op_nummer = false;
+    const ScopedFlag deze_rij(p.zoek_op_nummer, false);
     p.grdRooster.highlight_row(rij);
     const std::string nummer = p.grdRooster.text(rij, kolom_inr);
     schrijf_txtINR(bediening, nummer);
-    p.zoek_op_nummer = true;
 }
 
 void blader(Bediening& bediening, Blader richting) {

@@ -2,6 +2,7 @@
 
 #include "basis/codeBestand.h"
 #include "basis/codeDatumTijd.h"
+#include "basis/scoped.h"
 #include "basis/text.h"
 #include "excel/codeExcel.h"
 #include "schedule/lees_rooster.h"
@@ -111,14 +112,13 @@ void laad_rooster(Bediening& bediening, int slot) {
     const BusyPointer bezig(omgeving.muisaanwijzer);
     wis_rooster(bediening);
     p.bijschrift = bijschrift_naamloos; // an empty list does not bear the name of the last file
-    p.grdRooster.set_redraw(false);
+    const WithoutRedraw ongezien(p.grdRooster);
     const std::string soort = slot_van(p, slot).extensie;
     if (soort == "rst") laad_roosterbestand(bediening, slot);
     if (soort == "xls") {
         open_excel_rooster(p.rooster_bestand, slot, p, omgeving.excel, omgeving.berichten, omgeving.muisaanwijzer);
         wis_labels(p.labels);
     }
-    p.grdRooster.set_redraw(true);
 }
 
 void klik_slot(Bediening& bediening, int slot, Muisknop knop) {

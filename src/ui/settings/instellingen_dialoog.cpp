@@ -1,5 +1,6 @@
 #include "ui/settings/instellingen_dialoog.h"
 
+#include "basis/scoped.h"
 #include "excel/codeExcel.h"
 #include "ui/main/huidige_combinatie.h"
 
@@ -94,7 +95,7 @@ void toon_kolommen(Bediening& bediening) {
     const int rij = rooster.row();
     const int bovenste_rij = rooster.top_row();
     const int einde_selectie = rooster.selection_column();
-    rooster.set_redraw(false); // the view sees the new list, not the empty one before it
+    const WithoutRedraw ongezien(rooster); // the view sees the new list, not the empty one before it
     vul_xls_rooster(rooster, programma.grdExcel, Meldingen::zwijgen, programma, bediening.omgeving.berichten,
                     bediening.omgeving.muisaanwijzer);
     rooster.set_row(rij);

@@ -15,6 +15,7 @@
 
 #include <filesystem>
 #include <iostream>
+#include <new>
 
 namespace tavelo {
 namespace {
@@ -74,6 +75,17 @@ TEST(AutoImport, een_nieuwer_bestand_wordt_herlezen_onder_een_groen_label) {
     EXPECT_EQ(proef.muisaanwijzer.depth, 0);
     EXPECT_EQ(proef.muisaanwijzer.times_busy, 2); // once to open, once to read again
     EXPECT_EQ(proef.verslag.regels.size(), 2U);
+}
+
+TEST(AutoImport, een_herlezing_die_misgaat_laat_het_label_niet_groen) {
+    Geopend proef;
+    proef.schrijf(piet, 1);
+    EXPECT_THROW(auto_import(proef.bediening, [] { throw std::bad_alloc(); }), std::bad_alloc);
+    EXPECT_FALSE(proef.programma.herlezen_bezig);
+    EXPECT_EQ(proef.muisaanwijzer.depth, 0);
+    proef.tik(); // and the next tick reads
+    EXPECT_EQ(proef.naam(), "Piet");
+    EXPECT_EQ(proef.label_groen, (std::vector{true, false}));
 }
 
 TEST(AutoImport, hetzelfde_of_een_ouder_bestand_wordt_niet_gelezen) {

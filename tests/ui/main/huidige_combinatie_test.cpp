@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 namespace tavelo {
 namespace {
 
@@ -238,6 +240,23 @@ TEST_F(HuidigeCombinatie, de_titelrij_is_niet_te_kiezen) {
     EXPECT_EQ(p.txtINR, "12");
     EXPECT_EQ(p.huidige_regel, 2);
     EXPECT_EQ(p.huidig_naam, "naam 12/2");
+}
+
+TEST_F(HuidigeCombinatie, na_een_keuze_die_misgaat_wordt_er_weer_op_nummer_gezocht) {
+    struct VolGeheugen final : TextMeasure {
+        [[nodiscard]] double width(std::string_view, double, std::string_view) const override {
+            throw std::bad_alloc();
+        }
+        [[nodiscard]] double height(std::string_view, double) const override { throw std::bad_alloc(); }
+    };
+    vul({"3", "5", "5"});
+    const VolGeheugen vol;
+    Bediening misgaand{p, {vol, berichten, open_dialoog, tijdstempels, klok, muisaanwijzer, logboek, excel}, {}, {}};
+    grid.set_row(2);
+    EXPECT_THROW(kies_rij(misgaand), std::bad_alloc);
+    EXPECT_TRUE(p.zoek_op_nummer);
+    typ("5");
+    verwacht_rij(3);
 }
 
 // ---- previous and next

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 namespace tavelo {
 namespace {
 
@@ -350,6 +352,18 @@ TEST_F(OpenRooster, een_werkmap_vult_het_rooster_en_wist_de_labels) {
     EXPECT_EQ(p.labels.lblRingNaam, "");
     EXPECT_EQ(p.labels.lblDagTijd, "");
     EXPECT_TRUE(p.grdRooster.redraw());
+    EXPECT_EQ(muisaanwijzer.depth, 0);
+}
+
+TEST_F(OpenRooster, na_een_opening_die_misgaat_volgt_het_beeld_het_grid_weer) {
+    struct VolGeheugen final : ExcelApplication {
+        [[nodiscard]] Automation<std::unique_ptr<ExcelWorkbooks>> Workbooks() override { throw std::bad_alloc(); }
+    } vol;
+    Bediening misgaand{p, {meter, berichten, open_dialoog, tijdstempels, klok, muisaanwijzer, logboek, vol}, {}, {}};
+    open_dialoog.answer = pad("plan.xlsx");
+    EXPECT_THROW(open_rooster(misgaand, "", 0), std::bad_alloc);
+    EXPECT_TRUE(p.grdRooster.redraw());
+    EXPECT_TRUE(p.grdExcel.redraw());
     EXPECT_EQ(muisaanwijzer.depth, 0);
 }
 

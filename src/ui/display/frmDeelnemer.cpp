@@ -19,6 +19,10 @@ namespace {
 constexpr Schermvlak gewenste_maat{0, 0, 960, 540};
 constexpr int titelbalk = 32; // above the inside of a window, when the system has not told yet
 
+// A window of the owner stays above it, as a dialog does; yet it has the buttons of a window of its own.
+constexpr Qt::WindowFlags venstersoort = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                         Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
+
 Schermvlak als_vlak(const QRect& r) { return {r.x(), r.y(), r.width(), r.height()}; }
 QRect als_rechthoek(const Schermvlak& v) { return {v.links, v.boven, v.breedte, v.hoogte}; }
 
@@ -33,7 +37,7 @@ std::vector<Scherm> aanwezige_schermen() {
 
 frmDeelnemer::frmDeelnemer(Programma& programma, Vertoning& vertoning, std::function<void()> stel_samen,
                            QWidget& eigenaar, const QWidget& nummervak)
-    : QWidget(&eigenaar, Qt::Window),
+    : QWidget(&eigenaar, venstersoort),
       programma_(programma),
       stel_samen_(std::move(stel_samen)),
       eigenaar_(eigenaar),
@@ -100,7 +104,8 @@ void frmDeelnemer::onthoud_scherm() {
 
 void frmDeelnemer::zet_beeldvullend(bool beeldvullend, std::string_view normaal_bijschrift) {
     setWindowTitle(beeldvullend ? QString() : qt_text(normaal_bijschrift));
-    setWindowState(beeldvullend ? windowState() | Qt::WindowFullScreen : windowState() & ~Qt::WindowFullScreen);
+    // Back to normal size also when it was maximised or minimised before.
+    setWindowState(beeldvullend ? Qt::WindowFullScreen : Qt::WindowNoState);
     zet_bovenaan(*this, beeldvullend);
     if (beeldvullend)
         setCursor(Qt::BlankCursor);

@@ -284,7 +284,7 @@ TEST_F(BenodigdeHoogte, elke_regel_telt_bij_elke_waarde_behalve_0) {
                       &Instellingen::showhorsesire, &Instellingen::showhorsesiredamr, &Instellingen::showhorsecolor,
                       &Instellingen::showhorsegender, &Instellingen::showhorseage, &Instellingen::showhorsebreed,
                       &Instellingen::showhorsebreeder, &Instellingen::showunionname}) {
-        for (const std::int16_t waarde : {std::int16_t{1}, std::int16_t{2}, std::int16_t{-1}}) {
+        for (const std::int16_t waarde : {std::int16_t{1}, std::int16_t{2}, std::int16_t{3}, std::int16_t{-1}}) {
             instelling.*veld = waarde;
             EXPECT_EQ(regels(), 1) << waarde;
         }

@@ -5,6 +5,7 @@
 #include "ui/main/huidige_combinatie.h"
 
 #include <QTest>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -98,12 +99,38 @@ TEST_F(FrmDeelnemer, f11_wisselt_en_geeft_zijn_eigen_bijschrift_terug) {
 
 TEST_F(FrmDeelnemer, f11_met_een_andere_toets_en_andere_toetsen_doen_niets) {
     open();
-    for (const auto toets : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier})
-        QTest::keyClick(venster, Qt::Key_F11, toets);
-    QTest::keyClick(venster, Qt::Key_Escape);
-    QTest::keyClick(venster, Qt::Key_F10);
-    EXPECT_FALSE(venster->beeldvullend());
-    EXPECT_TRUE(venster->isVisible());
+    for (const bool beeldvullend : {false, true}) {
+        ASSERT_EQ(venster->beeldvullend(), beeldvullend);
+        for (const auto toets : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
+            QTest::keyClick(venster, Qt::Key_F11, toets);
+            EXPECT_EQ(venster->beeldvullend(), beeldvullend) << toets;
+        }
+        QTest::keyClick(venster, Qt::Key_Escape);
+        QTest::keyClick(venster, Qt::Key_F10);
+        EXPECT_EQ(venster->beeldvullend(), beeldvullend);
+        EXPECT_EQ(venster->isFullScreen(), beeldvullend);
+        EXPECT_TRUE(venster->isVisible());
+        QTest::keyClick(venster, Qt::Key_F11);
+    }
+}
+
+TEST_F(FrmDeelnemer, f11_maakt_ook_een_gemaximaliseerd_of_verborgen_venster_beeldvullend_en_daarna_gewoon) {
+    open();
+    for (const Qt::WindowState stand : {Qt::WindowMaximized, Qt::WindowMinimized}) {
+        venster->setWindowState(stand);
+        QTest::keyClick(venster, Qt::Key_F11);
+        EXPECT_EQ(venster->windowState(), Qt::WindowFullScreen) << stand;
+        QTest::keyClick(venster, Qt::Key_F11);
+        EXPECT_EQ(venster->windowState(), Qt::WindowNoState) << stand;
+    }
+}
+
+TEST_F(FrmDeelnemer, is_een_eigen_venster_dat_boven_het_hoofdvenster_blijft) {
+    open();
+    EXPECT_EQ(venster->windowHandle()->transientParent(), hoofdvenster.windowHandle());
+    EXPECT_EQ(venster->windowType(), Qt::Dialog); // any other type goes behind its owner when that is clicked
+    EXPECT_FALSE(venster->isModal());
+    EXPECT_TRUE(venster->windowFlags().testFlags(Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint));
 }
 
 TEST_F(FrmDeelnemer, opent_op_het_scherm_waar_het_hoofdvenster_niet_is) {

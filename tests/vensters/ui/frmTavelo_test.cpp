@@ -321,9 +321,22 @@ TEST_F(FrmTavelo, popup_twee_keer_opent_en_sluit_het_monitorvenster) {
 }
 
 TEST_F(FrmTavelo, f11_zonder_monitorvenster_doet_niets) {
-    QTest::keyClick(&txtINR(), Qt::Key_F11);
-    EXPECT_EQ(deelnemer(), nullptr);
-    EXPECT_EQ(txtINR().text(), "");
+    const auto druk = [this] {
+        for (const auto toetsen : {Qt::NoModifier, Qt::ShiftModifier})
+            QTest::keyClick(&txtINR(), Qt::Key_F11, toetsen);
+        EXPECT_EQ(deelnemer(), nullptr);
+        EXPECT_EQ(txtINR().text(), "");
+        EXPECT_EQ(venster->windowTitle(), "Vendalo 3.5 Tavelo - [naamloos]");
+        EXPECT_EQ(venster->windowState(), Qt::WindowNoState);
+        EXPECT_FALSE(staat_bovenaan(*venster));
+    };
+    druk();
+    vind<QAction>("mnuPopup").trigger();
+    const QPointer<frmDeelnemer> gesloten = deelnemer();
+    vind<QAction>("mnuPopup").trigger();
+    druk(); // the window is not gone yet, but closed
+    ASSERT_TRUE(gesloten);
+    EXPECT_EQ(gesloten->windowTitle(), "Toon combinatie (F11 voor beeldvullend)");
 }
 
 TEST_F(FrmTavelo, f11_maakt_het_monitorvenster_beeldvullend_en_weer_gewoon) {
@@ -336,12 +349,13 @@ TEST_F(FrmTavelo, f11_maakt_het_monitorvenster_beeldvullend_en_weer_gewoon) {
     EXPECT_EQ(monitor.cursor().shape(), Qt::BlankCursor);
     QTest::keyClick(&txtINR(), Qt::Key_F11);
     EXPECT_EQ(monitor.windowTitle(), "Monitor venster (F11 voor beeldvullend)");
-    EXPECT_FALSE(monitor.isFullScreen());
+    EXPECT_EQ(monitor.windowState(), Qt::WindowNoState);
     EXPECT_FALSE(staat_bovenaan(monitor));
     EXPECT_EQ(monitor.cursor().shape(), Qt::ArrowCursor);
     for (const auto toets : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
         QTest::keyClick(&txtINR(), Qt::Key_F11, toets);
         EXPECT_FALSE(monitor.isFullScreen());
+        EXPECT_EQ(monitor.windowTitle(), "Monitor venster (F11 voor beeldvullend)");
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -229,6 +230,18 @@ void RoosterView::kies(int rij) {
     if (rij < titelrij || rij >= grid_.rows()) return;
     grid_.set_row(rij);
     if (gekozen_) gekozen_();
+}
+
+bool RoosterView::event(QEvent* event) {
+    const bool done = QTableView::event(event);
+    // The row in the ring looks the same wherever the keys go: the edge shows that they go here.
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
+    if (event->type() == QEvent::Paint && hasFocus()) {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    return done;
 }
 
 void RoosterView::mousePressEvent(QMouseEvent* event) {

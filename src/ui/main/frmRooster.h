@@ -49,6 +49,7 @@ class RoosterView final : public QTableView, private GridListener {
     [[nodiscard]] int top_laatste_rij() const;
 
   protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

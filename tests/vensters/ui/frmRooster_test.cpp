@@ -208,6 +208,21 @@ TEST_F(FrmRooster, een_horizontale_schuifstand_blijft_bij_een_gevonden_nummer) {
     EXPECT_EQ(view->horizontalScrollBar()->value(), 50);
 }
 
+TEST_F(FrmRooster, aan_de_rand_is_te_zien_dat_de_toetsen_hierheen_gaan) {
+    const QColor markering = view->palette().color(QPalette::Highlight);
+    const auto hoeken = [this] {
+        const QImage beeld = view->grab().toImage();
+        return std::array{beeld.pixelColor(0, 0), beeld.pixelColor(beeld.width() - 1, beeld.height() - 1)};
+    };
+    view->clearFocus();
+    EXPECT_NE(hoeken()[0], markering);
+    EXPECT_NE(hoeken()[1], markering);
+    view->activateWindow();
+    view->setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view->hasFocus(); }));
+    EXPECT_EQ(hoeken(), (std::array{markering, markering}));
+}
+
 TEST_F(FrmRooster, kolom_0_is_geschilderd_als_de_kop) {
     const QImage beeld = view->viewport()->grab().toImage();
     const QRect vast = view->visualRect(view->model()->index(2, 0));

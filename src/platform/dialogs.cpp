@@ -2,16 +2,20 @@
 
 #include "app/programma.h"
 #include "platform/codeWindowPos.h"
+#include "platform/file_columns.h"
 #include "platform/qt_text.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QScreen>
 
 namespace tavelo {
 
 namespace {
+
+constexpr QSize ruime_maat(780, 460); // of the open dialog: whole names beside size, kind and date
 
 // The settings dialog while it asks for a colour, else the operator's window.
 QWidget* parent_window(const DialogOwner& owner) {
@@ -51,6 +55,8 @@ std::optional<std::string> QtOpenDialog::ask(const OpenRequest& request) {
     dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Bestandstypen:"));
     dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Openen"));
     dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Annuleren"));
+    zet_kolommen(dialog);
+    dialog.resize(dialog.size().expandedTo(ruime_maat).boundedTo(dialog.screen()->availableSize() * 0.9));
     blijf_bereikbaar(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     return utf8(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));

@@ -14,8 +14,10 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -127,6 +129,56 @@ TEST_F(Dialogs, een_bestand_met_een_andere_extensie_is_met_de_hand_te_typen) {
             antwoord = vraag.ask({map.file(""), std::string(filter), 1});
         });
     EXPECT_EQ(antwoord, map.file("lijst.txt"));
+}
+
+TEST_F(Dialogs, de_lijst_van_bestanden_is_nederlands_en_niets_is_afgesneden) {
+    const test::TempFolder map;
+    map.write("springen.rst", std::string(9000, 'x'));
+    map.write("zonder", "x");
+    const std::string pad = map.file("springen.rst");
+    QFile bestand(qt_text(pad));
+    ASSERT_TRUE(bestand.open(QIODevice::ReadWrite));
+    const QDateTime tijd(QDate(2026, 5, 3), QTime(9, 7));
+    ASSERT_TRUE(bestand.setFileTime(tijd, QFileDevice::FileModificationTime));
+    bestand.close();
+    QDir(qt_text(map.file(""))).mkdir("oud");
+
+    const QLocale hiervoor;
+    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
+    QtOpenDialog vraag(eigenaar);
+    bij_dialoog<QFileDialog>(
+        [&](QFileDialog& dialoog) {
+            dialoog.setNameFilter("*");
+            auto& lijst = *dialoog.findChild<QTreeView*>("treeView");
+            auto& bestanden = *dialoog.findChild<QFileSystemModel*>();
+            ASSERT_TRUE(QTest::qWaitFor([&] { return bestanden.rowCount(lijst.rootIndex()) == 3; }));
+            const auto teksten = [&](const char* naam) {
+                QList<QString> gevonden;
+                for (int kolom = 1; kolom <= 3; ++kolom) {
+                    const QModelIndex cel = bestanden.index(qt_text(map.file(naam)), kolom);
+                    // What the list draws, and how wide that is.
+                    struct Kijker : QStyledItemDelegate {
+                        using QStyledItemDelegate::initStyleOption;
+                    };
+                    QStyleOptionViewItem optie;
+                    optie.initFrom(&lijst);
+                    const auto* tekenaar = static_cast<const QStyledItemDelegate*>(lijst.itemDelegateForColumn(kolom));
+                    (tekenaar->*&Kijker::initStyleOption)(&optie, cel);
+                    EXPECT_LE(tekenaar->sizeHint(optie, cel).width(), lijst.columnWidth(kolom)) << naam << kolom;
+                    gevonden += optie.text;
+                }
+                return gevonden;
+            };
+            EXPECT_EQ(teksten("springen.rst"), (QList<QString>{"8,8 kB", "RST-bestand", "03-05-2026 09:07"}));
+            EXPECT_EQ(teksten("zonder")[1], "Bestand");
+            EXPECT_EQ(teksten("oud")[0], "");
+            EXPECT_EQ(teksten("oud")[1], "Map");
+            dialoog.reject();
+        },
+        [&] {
+            static_cast<void>(vraag.ask({map.file(""), std::string(filter), 1}));
+        });
+    QLocale::setDefault(hiervoor);
 }
 
 TEST_F(Dialogs, annuleren_geeft_niets) {

@@ -1,23 +1,38 @@
 #include "basis/grid.h"
 
 #include <algorithm>
+#include <cstring>
+#include <utility>
 
 namespace tavelo {
 
+namespace {
+
+std::string_view copied(std::string_view text, char* to) {
+    if (!text.empty()) std::memcpy(to, text.data(), text.size());
+    return {to, text.size()};
+}
+
+} // namespace
+
 void Grid::set_rows(int rows) {
-    rows_.resize(static_cast<std::size_t>(std::max(rows, 0)));
-    for (Row& row : rows_)
-        row.texts.resize(static_cast<std::size_t>(columns_));
+    const auto wanted = static_cast<std::size_t>(std::max(rows, 0));
+    while (rows_.size() > wanted) {
+        used_bytes_ -= rows_.back().bytes;
+        rows_.pop_back();
+    }
+    rows_.reserve(wanted);
+    while (rows_.size() < wanted)
+        rows_.push_back(new_row({}));
+    tidy_store();
     keep_positions_inside();
     tell_reset();
 }
 
 void Grid::set_columns(int columns) {
     if (std::max(columns, 0) == columns_) return;
-    columns_ = std::max(columns, 0);
+    store_all_again(std::max(columns, 0));
     column_style_.resize(static_cast<std::size_t>(columns_));
-    for (Row& row : rows_)
-        row.texts.resize(static_cast<std::size_t>(columns_));
     keep_positions_inside();
     tell_reset();
 }
@@ -33,17 +48,17 @@ void Grid::set_fixed_columns(int columns) {
     tell_reset();
 }
 
-const std::string& Grid::text(int row, int column) const {
-    static const std::string none;
-    if (!has_cell(row, column)) return none;
-    return rows_[static_cast<std::size_t>(row)].texts[static_cast<std::size_t>(column)];
-}
-
 void Grid::set_text(int row, int column, std::string_view text) {
     if (!has_cell(row, column)) return;
-    std::string& cell = rows_[static_cast<std::size_t>(row)].texts[static_cast<std::size_t>(column)];
+    Row& changed = rows_[static_cast<std::size_t>(row)];
+    std::string_view& cell = changed.cells[column];
     if (cell == text) return;
-    cell = text;
+    const std::size_t had = cell.size();
+    cell = text.empty() ? std::string_view() : copied(text, static_cast<char*>(store_->allocate(text.size(), 1)));
+    stored_bytes_ += cell.size();
+    used_bytes_ += cell.size() - had;
+    changed.bytes += cell.size() - had;
+    tidy_store();
     if (GridListener* listener = audience()) listener->cell_changed(row, column);
 }
 
@@ -108,27 +123,78 @@ void Grid::set_top_row(int row) {
     tell_current();
 }
 
-int Grid::append_row(std::vector<std::string> texts) {
-    insert_row(rows(), std::move(texts));
-    return rows() - 1;
+int Grid::append_row(std::span<const std::string_view> texts) {
+    const int row = rows();
+    rows_.push_back(new_row(texts));
+    if (GridListener* listener = audience()) listener->row_inserted(row);
+    return row;
 }
 
-void Grid::insert_row(int row, std::vector<std::string> texts) {
+void Grid::insert_row(int row, std::span<const std::string_view> texts) {
     const int at = std::clamp(row, 0, rows());
-    texts.resize(static_cast<std::size_t>(columns_));
-    rows_.insert(rows_.begin() + at, Row{std::move(texts)});
+    rows_.insert(rows_.begin() + at, new_row(texts));
     if (GridListener* listener = audience()) listener->row_inserted(at);
 }
 
 void Grid::remove_row(int row) {
     if (row < 0 || row >= rows()) return;
+    used_bytes_ -= rows_[static_cast<std::size_t>(row)].bytes;
     rows_.erase(rows_.begin() + row);
+    tidy_store();
     const int current = row_;
     keep_positions_inside();
     if (GridListener* listener = audience()) {
         listener->row_removed(row);
         if (row_ != current) listener->current_changed();
     }
+}
+
+Grid::Row Grid::stored(std::pmr::memory_resource& store, std::size_t columns, std::span<const std::string_view> texts) {
+    texts = texts.first(std::min(texts.size(), columns));
+    Row row;
+    row.bytes = columns * sizeof(std::string_view);
+    for (const std::string_view text : texts)
+        row.bytes += text.size();
+    row.cells = static_cast<std::string_view*>(store.allocate(row.bytes, alignof(std::string_view)));
+    std::string_view* cell = row.cells;
+    auto* place = reinterpret_cast<char*>(row.cells + columns);
+    for (const std::string_view text : texts) {
+        std::construct_at(cell++, copied(text, place));
+        place += text.size();
+    }
+    std::uninitialized_default_construct(cell, row.cells + columns);
+    return row;
+}
+
+Grid::Row Grid::new_row(std::span<const std::string_view> texts) {
+    const Row row = stored(*store_, static_cast<std::size_t>(columns_), texts);
+    stored_bytes_ += row.bytes;
+    used_bytes_ += row.bytes;
+    return row;
+}
+
+// Changes nothing until all is stored: there may be no memory for it.
+void Grid::store_all_again(int columns) {
+    auto store = std::make_unique<std::pmr::monotonic_buffer_resource>();
+    std::vector<Row> rows;
+    rows.reserve(rows_.capacity()); // a grid that is emptied is often filled again
+    std::size_t bytes = 0;
+    for (const Row& row : rows_) {
+        rows.push_back(
+            stored(*store, static_cast<std::size_t>(columns), {row.cells, static_cast<std::size_t>(columns_)}));
+        rows.back().value = row.value;
+        bytes += rows.back().bytes;
+    }
+    rows_ = std::move(rows);
+    store_ = std::move(store);
+    columns_ = columns;
+    stored_bytes_ = bytes;
+    used_bytes_ = bytes;
+}
+
+void Grid::tidy_store() {
+    constexpr std::size_t little = 65536;
+    if (stored_bytes_ > 2 * used_bytes_ + little) store_all_again(columns_);
 }
 
 void Grid::set_redraw(bool redraw) {

@@ -5,8 +5,11 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
-#include <string>
+#include <memory>
+#include <memory_resource>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -39,7 +42,10 @@ class Grid {
     void set_fixed_rows(int rows);
     void set_fixed_columns(int columns);
 
-    [[nodiscard]] const std::string& text(int row, int column) const;
+    // A view that holds until the grid changes.
+    [[nodiscard]] std::string_view text(int row, int column) const {
+        return has_cell(row, column) ? rows_[static_cast<std::size_t>(row)].cells[column] : std::string_view();
+    }
     void set_text(int row, int column, std::string_view text);
     // A number that goes with the row and is never shown.
     [[nodiscard]] std::int32_t row_value(int row) const;
@@ -68,9 +74,9 @@ class Grid {
     void set_top_row(int row);
 
     // Appends a row and gives its position. Missing texts are empty, texts beyond the last column are dropped.
-    int append_row(std::vector<std::string> texts = {});
+    int append_row(std::span<const std::string_view> texts = {});
     // Inserts a row before `row`; at the end when `row` lies beyond it. Texts beyond the last column are dropped.
-    void insert_row(int row, std::vector<std::string> texts);
+    void insert_row(int row, std::span<const std::string_view> texts);
     void remove_row(int row);
 
     // With redraw off the listener hears nothing; switched on again it hears `grid_reset` once.
@@ -80,8 +86,10 @@ class Grid {
     void set_listener(GridListener* listener) { listener_ = listener; }
 
   private:
+    // The texts of a row lie together behind its cells, in the store.
     struct Row {
-        std::vector<std::string> texts;
+        std::string_view* cells = nullptr; // one per column
+        std::size_t bytes = 0;             // of the store that are in use for it
         std::int32_t value = 0;
     };
     struct Column {
@@ -93,10 +101,21 @@ class Grid {
         return row >= 0 && row < rows() && column >= 0 && column < columns_;
     }
     [[nodiscard]] GridListener* audience() const { return redraw_ ? listener_ : nullptr; }
+    // A row of its own copies of the texts.
+    [[nodiscard]] static Row stored(std::pmr::memory_resource& store, std::size_t columns,
+                                    std::span<const std::string_view> texts);
+    [[nodiscard]] Row new_row(std::span<const std::string_view> texts);
+    void store_all_again(int columns);
+    void tidy_store();
     void keep_positions_inside();
     void tell_reset() const;
     void tell_current() const;
 
+    // Memory is only added to the store; what rows and cells leave behind is taken back by storing the rest again.
+    std::unique_ptr<std::pmr::monotonic_buffer_resource> store_ =
+        std::make_unique<std::pmr::monotonic_buffer_resource>();
+    std::size_t stored_bytes_ = 0;
+    std::size_t used_bytes_ = 0; // of those, by the rows that there are
     std::vector<Row> rows_;
     std::vector<Column> column_style_;
     int columns_ = 0;

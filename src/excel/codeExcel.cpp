@@ -127,7 +127,7 @@ std::string excel_kolom(const Grid& bron, int rij, std::string_view kolom_letter
     const auto letter = static_cast<std::int64_t>(code_points(upper_case(kolom_letter)).front());
     const std::int64_t kolom = letter - 'A';
     if (kolom < 0 || kolom > bron.columns() - 1) return {};
-    return bron.text(rij, static_cast<int>(kolom));
+    return std::string(bron.text(rij, static_cast<int>(kolom)));
 }
 
 void vul_xls_rooster(Grid& doel, const Grid& bron, Meldingen meldingen, Programma& programma, MessageBox& berichten,

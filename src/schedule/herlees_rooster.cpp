@@ -27,7 +27,7 @@ std::string naam_voor_vergelijking(std::string_view naam) {
     return lower_case(trimmed(zonder));
 }
 
-bool is_anders(int kolom, const std::string& oud, const std::string& nieuw) {
+bool is_anders(int kolom, std::string_view oud, std::string_view nieuw) {
     if (oud == nieuw) return false;
     switch (kolom) {
     case kolom_cnr:
@@ -132,8 +132,8 @@ class Samenvoeging {
     void werk_bij(int doelrij, int bronrij, double nummer) {
         verslag_.begin_rij();
         for (const int kolom : vergeleken_kolommen) {
-            const std::string& oud = doel_.text(doelrij, kolom);
-            const std::string& nieuw = bron_.text(bronrij, kolom);
+            const std::string_view oud = doel_.text(doelrij, kolom);
+            const std::string_view nieuw = bron_.text(bronrij, kolom);
             const bool anders = is_anders(kolom, oud, nieuw);
             verslag_.kolom(oud, anders ? nieuw : oud);
             if (anders)
@@ -154,11 +154,11 @@ class Samenvoeging {
     }
 
     void voeg_in(int bronrij, double nummer) {
-        std::vector<std::string> teksten;
+        std::vector<std::string_view> teksten;
         for (int kolom = 0; kolom < bron_.columns(); ++kolom)
             teksten.push_back(bron_.text(bronrij, kolom));
         const int plaats = std::min(bronrij, doel_.rows()); // beyond the end: nothing new is lost
-        doel_.insert_row(plaats, std::move(teksten));
+        doel_.insert_row(plaats, teksten);
         index_.ingevoegd(nummer, plaats);
         verslag_.hele_rij("toegevoegd", bron_, bronrij);
     }

@@ -12,7 +12,6 @@
 
 #include <array>
 #include <optional>
-#include <utility>
 #include <vector>
 
 namespace tavelo {
@@ -70,7 +69,7 @@ class Vuller {
             vul_combinatie(cellen, n, deelnemer, doel_.grid.rows());
         else
             minuten = vul_pauze(cellen, inr, bijbehorend[0], bijbehorend[1]);
-        const int rij = doel_.grid.append_row(std::move(cellen));
+        const int rij = doel_.grid.append_row(std::vector<std::string_view>(cellen.begin(), cellen.end()));
         doel_.grid.set_row_value(rij, minuten);
     }
 

@@ -167,7 +167,7 @@ void vul_nr_tijd(Grid& grid, const RubriekRecord& rubriek, MessageBox& berichten
 
     grid.set_text(0, kolom_nrtijd, nr_tijd_titel(rubriek.rtvko));
     for (int rij = 1; rij < grid.rows(); ++rij) {
-        const std::string inr = grid.text(rij, kolom_inr);
+        const std::string_view inr = grid.text(rij, kolom_inr);
         const bool is_pauze = inr == "P";
         // A "p" in lower case shows no number but uses one up, and takes no pause: it is meant so.
         const std::string nummer_tekst = is_pauze || inr == "p" ? std::string() : std::to_string(nummer);

@@ -1,6 +1,8 @@
 #include "basis/grid.h"
 
 #include "fakes/grid_events.h"
+#include "fakes/heap.h"
+#include "schedule/toeval.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +11,7 @@ namespace {
 
 using test::GridEvents;
 using test::Texts;
+using test::Views;
 
 Grid grid_van(int rijen, int kolommen) {
     Grid grid;
@@ -66,7 +69,7 @@ TEST(Grid, meer_rijen_en_kolommen_zijn_leeg_en_minder_laten_de_rest_staan) {
 TEST(Grid, een_rij_of_kolom_die_terugkomt_is_leeg) {
     Grid grid = grid_van(1, 2);
     const auto vul = [&] {
-        const int rij = grid.append_row({"x", "y"});
+        const int rij = grid.append_row(Views{"x", "y"});
         grid.set_row_value(rij, 7);
     };
     vul();
@@ -91,8 +94,8 @@ TEST(Grid, een_rij_of_kolom_die_terugkomt_is_leeg) {
 TEST(Grid, een_rij_wordt_ingevoegd_voor_haar_plaats_en_anders_achteraan) {
     Grid grid = grid_met("ab");
     grid.set_row_value(2, 7);
-    grid.insert_row(2, Texts{"n"});
-    grid.insert_row(99, Texts{"z", "valt buiten de kolommen"});
+    grid.insert_row(2, Views{"n"});
+    grid.insert_row(99, Views{"z", "valt buiten de kolommen"});
     grid.insert_row(1, {});
     EXPECT_EQ(test::column_texts(grid, 0), (Texts{"", "a", "n", "b", "z"}));
     EXPECT_EQ(grid.row_value(3), 0);
@@ -101,6 +104,71 @@ TEST(Grid, een_rij_wordt_ingevoegd_voor_haar_plaats_en_anders_achteraan) {
     EXPECT_EQ(test::column_texts(grid, 0), (Texts{"", "n", "b", "z"}));
     EXPECT_EQ(grid.row_value(3), 7);
     EXPECT_EQ(grid.row_value(4), 0);
+}
+
+// What a row is told to hold may come from the grid itself.
+TEST(Grid, een_rij_kan_met_de_teksten_van_een_andere_worden_gevuld) {
+    Grid grid = grid_van(1, 3);
+    grid.append_row(Views{"a", "", "een lange tekst die niet in een kleine ruimte past"});
+    for (int keer = 0; keer < 100; ++keer)
+        grid.append_row(Views{grid.text(keer + 1, 2), grid.text(keer + 1, 0), grid.text(keer + 1, 2)});
+    grid.set_text(1, 0, grid.text(101, 2));
+    grid.set_text(1, 2, grid.text(1, 0).substr(4));
+    EXPECT_EQ(test::row_texts(grid, 1), (Texts{"een lange tekst die niet in een kleine ruimte past", "",
+                                               "lange tekst die niet in een kleine ruimte past"}));
+    EXPECT_EQ(test::row_texts(grid, 101), (Texts{"een lange tekst die niet in een kleine ruimte past",
+                                                 "een lange tekst die niet in een kleine ruimte past",
+                                                 "een lange tekst die niet in een kleine ruimte past"}));
+}
+
+TEST(Grid, na_elke_reeks_wijzigingen_staat_er_wat_er_is_neergezet) {
+    const std::uint32_t begin = test::beginwaarde(1813);
+    std::cout << "TAVELO_SEED=" << begin << '\n';
+    test::Toeval toeval(begin);
+    for (int proef = 0; proef < 20; ++proef) {
+        Grid grid = grid_van(0, 3);
+        std::vector<Texts> verwacht;
+        for (int stap = 0; stap < 3000; ++stap) {
+            const int rij = toeval.onder(static_cast<int>(verwacht.size()) + 2) - 1;
+            const bool bestaat = rij >= 0 && rij < grid.rows();
+            const std::string tekst(static_cast<std::size_t>(toeval.onder(200)), static_cast<char>('a' + stap % 26));
+            switch (toeval.onder(6)) {
+            case 0:
+                grid.append_row(Views{tekst, "", "z"});
+                verwacht.push_back({tekst, "", "z"});
+                break;
+            case 1:
+                grid.insert_row(std::max(rij, 0), Views{"", tekst});
+                verwacht.insert(verwacht.begin() + std::min(std::max(rij, 0), static_cast<int>(verwacht.size())),
+                                {"", tekst, ""});
+                break;
+            case 2:
+                grid.remove_row(rij);
+                if (bestaat) verwacht.erase(verwacht.begin() + rij);
+                break;
+            case 3:
+                if (!toeval.een_op(50)) break;
+                grid.set_rows(rij);
+                verwacht.resize(static_cast<std::size_t>(std::max(rij, 0)), Texts(3));
+                break;
+            default:
+                const int kolom = toeval.onder(3);
+                grid.set_text(rij, kolom, tekst);
+                if (bestaat) verwacht[static_cast<std::size_t>(rij)][static_cast<std::size_t>(kolom)] = tekst;
+            }
+        }
+        ASSERT_EQ(test::all_texts(grid), verwacht);
+    }
+}
+
+TEST(Grid, wie_dezelfde_cellen_blijft_wijzigen_houdt_het_geheugen_klein) {
+    Grid grid = grid_van(100, 3);
+    const std::size_t voor = test::heap_bytes();
+    for (int keer = 0; keer < 2000; ++keer)
+        for (int rij = 0; rij < 100; ++rij)
+            grid.set_text(rij, 1, std::string(100, static_cast<char>('a' + keer % 26)));
+    EXPECT_LT(test::heap_bytes(), voor + 200'000); // of twenty million bytes that were written
+    EXPECT_EQ(grid.text(99, 1), std::string(100, static_cast<char>('a' + 1999 % 26)));
 }
 
 TEST(Grid, de_huidige_cel_blijft_binnen_het_grid) {
@@ -123,7 +191,7 @@ TEST(Grid, de_huidige_cel_blijft_binnen_het_grid) {
 TEST(Grid, een_rij_erboven_verschuift_wat_er_geselecteerd_is) {
     Grid grid = grid_met("abc");
     grid.set_row(2);
-    grid.insert_row(1, Texts{"n"});
+    grid.insert_row(1, Views{"n"});
     EXPECT_EQ(grid.row(), 2);
     EXPECT_EQ(grid.text(grid.row(), 0), "a");
 }

@@ -25,7 +25,7 @@ struct BuiltinExcel : testing::Test {
     std::vector<std::string> row(int index) const {
         std::vector<std::string> texts;
         for (int column = 0; column < grid.columns(); ++column)
-            texts.push_back(grid.text(index, column));
+            texts.emplace_back(grid.text(index, column));
         return texts;
     }
 };

@@ -44,7 +44,7 @@ struct LeesExcel : testing::Test {
         for (int row = 0; row < grid.rows(); ++row) {
             all.emplace_back();
             for (int column = 0; column < grid.columns(); ++column)
-                all.back().push_back(grid.text(row, column));
+                all.back().emplace_back(grid.text(row, column));
         }
         return all;
     }

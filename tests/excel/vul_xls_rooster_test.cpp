@@ -25,7 +25,7 @@ void fill(Grid& grid, const Texts& texts) {
 std::vector<std::string> row_of(const Grid& grid, int row) {
     std::vector<std::string> texts;
     for (int column = 0; column < grid.columns(); ++column)
-        texts.push_back(grid.text(row, column));
+        texts.emplace_back(grid.text(row, column));
     return texts;
 }
 

@@ -4,6 +4,7 @@
 #include "basis/grid.h"
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -23,11 +24,12 @@ struct GridEvents final : GridListener {
 };
 
 using Texts = std::vector<std::string>;
+using Views = std::vector<std::string_view>;
 
 [[nodiscard]] inline Texts row_texts(const Grid& grid, int row) {
     Texts texts;
     for (int column = 0; column < grid.columns(); ++column)
-        texts.push_back(grid.text(row, column));
+        texts.emplace_back(grid.text(row, column));
     return texts;
 }
 
@@ -42,7 +44,7 @@ using Texts = std::vector<std::string>;
 [[nodiscard]] inline Texts column_texts(const Grid& grid, int column) {
     Texts texts;
     for (int row = 1; row < grid.rows(); ++row)
-        texts.push_back(grid.text(row, column));
+        texts.emplace_back(grid.text(row, column));
     return texts;
 }
 

@@ -30,7 +30,7 @@ inline bool cel_is_anders(int kolom, const std::string& oud, const std::string& 
 inline std::string kolommen_van_naam_af(const Grid& grid, int rij) {
     std::string tekst;
     for (int kolom = kolom_naam; kolom <= kolom_cat; ++kolom)
-        tekst += "\t" + grid.text(rij, kolom);
+        tekst.append("\t").append(grid.text(rij, kolom));
     return tekst;
 }
 
@@ -42,7 +42,7 @@ inline void voeg_rij_voor_rij_samen(Grid& doel, const Grid& bron, Schedule& sche
         while (j < doel.rows() && leading_number(doel.text(j, kolom_inr)) != sleutel)
             ++j;
         if (j == doel.rows()) {
-            std::vector<std::string> teksten;
+            std::vector<std::string_view> teksten;
             for (int kolom = 0; kolom < bron.columns(); ++kolom)
                 teksten.push_back(bron.text(i, kolom));
             doel.insert_row(i, teksten);
@@ -53,8 +53,8 @@ inline void voeg_rij_voor_rij_samen(Grid& doel, const Grid& bron, Schedule& sche
         std::string naar = "\tnaar";
         for (const int kolom :
              {kolom_cnr, kolom_naam, kolom_hc, kolom_paard, kolom_vader, kolom_vereniging, kolom_kl, kolom_cat}) {
-            const std::string oud = doel.text(j, kolom);
-            const std::string nieuw = bron.text(i, kolom);
+            const std::string oud(doel.text(j, kolom));
+            const std::string nieuw(bron.text(i, kolom));
             const bool anders = cel_is_anders(kolom, oud, nieuw);
             if (anders) doel.set_text(j, kolom, nieuw);
             if (kolom == kolom_cnr && !anders && sleutel < hoogste_deelnemer + 0.5) {

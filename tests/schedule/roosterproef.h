@@ -48,7 +48,7 @@ struct Roosterproef {
     // The start list of a rubriek whose record is this, with the combinations that `schedule` already knows.
     void vul(std::string_view record) { vul_rooster(doel, record); }
 
-    [[nodiscard]] std::string cel(int rij, int kolom) const { return grid.text(rij, kolom); }
+    [[nodiscard]] std::string cel(int rij, int kolom) const { return std::string(grid.text(rij, kolom)); }
 };
 
 } // namespace tavelo::test

@@ -75,7 +75,7 @@ Grid grid_van(const Lijst& lijst) {
     grid.set_columns(kolom_laatste + 1);
     grid.set_rows(1);
     for (const Rij& rij : lijst) {
-        const int plaats = grid.append_row(rij.cellen);
+        const int plaats = grid.append_row(test::Views(rij.cellen.begin(), rij.cellen.end()));
         grid.set_row_value(plaats, rij.waarde);
     }
     return grid;

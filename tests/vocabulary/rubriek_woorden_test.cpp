@@ -218,7 +218,7 @@ struct NrTijd {
     // The column with its title.
     Teksten kolom() {
         vul_nr_tijd(grid, rubriek, berichten);
-        Teksten teksten{grid.text(0, kolom_nrtijd)};
+        Teksten teksten{std::string(grid.text(0, kolom_nrtijd))};
         for (const std::string& tekst : test::column_texts(grid, kolom_nrtijd))
             teksten.push_back(tekst);
         return teksten;

@@ -80,7 +80,7 @@ void kies_rij(Bediening& bediening) {
     if (rij < 1) return;
     const ScopedFlag deze_rij(p.zoek_op_nummer, false);
     p.grdRooster.highlight_row(rij);
-    const std::string nummer = p.grdRooster.text(rij, kolom_inr);
+    const std::string nummer(p.grdRooster.text(rij, kolom_inr)); // the grid may change meanwhile
     schrijf_txtINR(bediening, nummer);
 }
 
@@ -99,7 +99,7 @@ void blader(Bediening& bediening, Blader richting) {
     if (!rij) return;
     grid.highlight_row(*rij);
     // Searched again by its number, so of duplicates the last one is shown: it is meant so.
-    const std::string gevonden = grid.text(*rij, kolom_inr);
+    const std::string gevonden(grid.text(*rij, kolom_inr));
     schrijf_txtINR(bediening, gevonden);
 }
 

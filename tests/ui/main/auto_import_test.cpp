@@ -55,7 +55,7 @@ struct Geopend : test::Opstelling {
         auto_import(
             bediening, [&] { label_groen.push_back(programma.herlezen_bezig); }, &verslag);
     }
-    [[nodiscard]] std::string naam() const { return programma.grdRooster.text(1, kolom_naam); }
+    [[nodiscard]] std::string naam() const { return std::string(programma.grdRooster.text(1, kolom_naam)); }
 };
 
 TEST(AutoImport, een_nieuwer_bestand_wordt_herlezen_onder_een_groen_label) {

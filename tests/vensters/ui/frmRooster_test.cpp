@@ -87,7 +87,7 @@ TEST_F(FrmRooster, ingevoegde_en_verwijderde_rijen_houden_de_plaats_van_het_roos
     QSignalSpy resets(view->model(), &QAbstractItemModel::modelReset);
     grid.highlight_row(10);
     view->verticalScrollBar()->setValue(5);
-    grid.insert_row(3, std::vector<std::string>{"a", "b", "c", "d"});
+    grid.insert_row(3, std::vector<std::string_view>{"a", "b", "c", "d"});
     EXPECT_EQ(view->model()->rowCount(), 41);
     EXPECT_EQ(tekst(2, 0), "a");
     EXPECT_EQ(tekst(3, 0), "r3k0");

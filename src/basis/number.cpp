@@ -87,8 +87,6 @@ std::optional<Integer> fitted(double value) {
 
 } // namespace
 
-double leading_number(std::string_view text) { return number_in(text).value_or(0); }
-
 std::optional<double> number_in(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
     if (first == std::string_view::npos) return std::nullopt;

@@ -79,19 +79,6 @@ Decoded decode(std::string_view text) {
 
 bool is_plain(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
-// Length of the leading part without a byte of 80 or above; eight bytes at a time, for this is most of a file.
-std::size_t plain_length(std::string_view bytes) {
-    constexpr std::uint64_t high_bits = 0x8080808080808080;
-    std::size_t length = 0;
-    for (std::uint64_t eight = 0; length + sizeof eight <= bytes.size(); length += sizeof eight) {
-        std::memcpy(&eight, bytes.data() + length, sizeof eight);
-        if ((eight & high_bits) != 0) break;
-    }
-    while (length < bytes.size() && is_plain(bytes[length]))
-        ++length;
-    return length;
-}
-
 // Maps every code point; bytes that are not UTF-8 are kept as they are.
 template <class Mapping>
 std::string mapped(std::string_view text, Mapping mapping) {
@@ -168,17 +155,21 @@ std::string_view last(std::string_view text, std::size_t count) {
     return text.substr(begin);
 }
 
+void from_windows_1252(std::string_view bytes, std::string& text) {
+    text.clear();
+    std::size_t begin = 0; // of what is not taken over yet
+    for_each_place(bytes, HighByte(), [&](std::size_t at) {
+        const auto byte = static_cast<unsigned char>(bytes[at]);
+        text.append(bytes.substr(begin, at - begin));
+        append_utf8(text, byte < 0xA0 ? windows_1252_upper_controls[byte - 0x80U] : byte);
+        begin = at + 1;
+    });
+    text.append(bytes.substr(begin));
+}
+
 std::string from_windows_1252(std::string_view bytes) {
     std::string text;
-    text.reserve(bytes.size() + bytes.size() / 16);
-    while (!bytes.empty()) {
-        const std::size_t plain = plain_length(bytes);
-        text.append(bytes.substr(0, plain));
-        if (plain == bytes.size()) break;
-        const auto byte = static_cast<unsigned char>(bytes[plain]);
-        append_utf8(text, byte < 0xA0 ? windows_1252_upper_controls[byte - 0x80U] : byte);
-        bytes.remove_prefix(plain + 1);
-    }
+    from_windows_1252(bytes, text);
     return text;
 }
 

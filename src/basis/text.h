@@ -2,6 +2,8 @@
 // letters of Windows-1252 one to one (é/É, ÿ/Ÿ, š/Š), whatever the locale of the computer; ß stays.
 #pragma once
 
+#include "basis/byte_mask.h"
+
 #include <optional>
 #include <span>
 #include <string>
@@ -23,24 +25,21 @@ namespace tavelo {
 // Walks the same parts one by one, for a text of any size.
 class Parts {
   public:
-    Parts(std::string_view text, char separator) : rest_(text), separator_(separator) {}
+    Parts(std::string_view text, char separator) : text_(text), separators_(text, EqualTo{separator}) {}
 
     // The next part; nothing behind the last one.
     std::optional<std::string_view> next() {
-        if (at_end_) return std::nullopt;
-        const std::size_t end = rest_.find(separator_);
-        const std::string_view part = rest_.substr(0, end);
-        at_end_ = end == std::string_view::npos;
-        rest_.remove_prefix(at_end_ ? rest_.size() : end + 1);
+        if (begin_ > text_.size()) return std::nullopt;
+        const std::size_t end = separators_.next();
+        const std::string_view part = text_.substr(begin_, end - begin_);
+        begin_ = end + 1;
         return part;
     }
-    // What `next` has not given yet.
-    [[nodiscard]] std::string_view rest() const { return rest_; }
 
   private:
-    std::string_view rest_;
-    char separator_;
-    bool at_end_ = false;
+    std::string_view text_;
+    Places<EqualTo> separators_;
+    std::size_t begin_ = 0; // of the next part; beyond the end behind the last one
 };
 
 // The last `count` characters.
@@ -48,6 +47,8 @@ class Parts {
 
 // Decodes Windows-1252. The five bytes without a character become the control character of the same code.
 [[nodiscard]] std::string from_windows_1252(std::string_view bytes);
+// The same into a text whose room is used again, for many texts in a row.
+void from_windows_1252(std::string_view bytes, std::string& text);
 
 // The code points of a UTF-8 text; a byte that is not UTF-8 gives U+FFFD.
 [[nodiscard]] std::u32string code_points(std::string_view text);

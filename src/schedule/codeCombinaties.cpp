@@ -3,6 +3,7 @@
 #include "basis/codeDatumTijd.h"
 #include "basis/number.h"
 #include "basis/text.h"
+#include "schedule/record/items.h"
 #include "vocabulary/codeTaal.h"
 
 #include <algorithm>
@@ -27,9 +28,9 @@ constexpr std::array tekst_velden = std::to_array<TekstVeld>({
     {"ve_nr", &C::ve_nr},     {"ve", &C::ve},           {"ve_pl", &C::ve_pl},     {"kr", &C::kr},
 });
 
-using Sleutels = std::array<std::string_view, 4>;
+using PerDiscipline = C::PerDiscipline<std::string_view>;
 struct GetalVeld {
-    Sleutels sleutels;
+    PerDiscipline sleutels;
     C::PerDiscipline<std::int16_t> C::*veld;
 };
 constexpr std::array getal_velden = std::to_array<GetalVeld>({
@@ -43,8 +44,22 @@ constexpr std::array getal_velden = std::to_array<GetalVeld>({
     {{"d_kur", "s_kur", "md_kur", "mv_kur"}, &C::kur},
     {{"d_flex", "s_flex", "md_flex", "mv_flex"}, &C::flex},
 });
-constexpr Sleutels klasse_sleutels = {"dk", "sk", "mdk", "mvk"};
-constexpr Sleutels dagen_sleutels = {"dr_dagen", "sp_dagen", "medr_dagen", "meva_dagen"};
+constexpr PerDiscipline klasse_sleutels = {"dk", "sk", "mdk", "mvk"};
+constexpr PerDiscipline dagen_sleutels = {"dr_dagen", "sp_dagen", "medr_dagen", "meva_dagen"};
+
+// All keys, in the order in which `lees_combinatie` takes their values.
+constexpr auto alle_sleutels = [] {
+    std::array<std::string_view, 1 + tekst_velden.size() + 4 * (2 + getal_velden.size())> alle;
+    auto sleutel = alle.begin();
+    *sleutel++ = "hnr";
+    for (const TekstVeld& veld : tekst_velden)
+        *sleutel++ = veld.sleutel;
+    sleutel = std::ranges::copy(klasse_sleutels, sleutel).out;
+    sleutel = std::ranges::copy(dagen_sleutels, sleutel).out;
+    for (const GetalVeld& veld : getal_velden)
+        sleutel = std::ranges::copy(veld.sleutels, sleutel).out;
+    return alle;
+}();
 
 std::string_view geslacht_woord(std::string_view code) {
     if (code == "H" || code == "S") return "Hengst";
@@ -70,31 +85,37 @@ Datum lees_datum(std::string_view tekst) {
 
 } // namespace
 
-std::string hoofdstelnummer(int n, const RecordItems& record, bool hoofdstelnummerautomatisch) {
+std::string hoofdstelnummer(int n, std::string_view hnr, std::string_view co, bool hoofdstelnummerautomatisch) {
     if (n == 0) return "";
-    if (const std::string_view hnr = record.waarde("hnr"); !hnr.empty()) return std::string(hnr);
-    std::string afgeleid;
+    if (!hnr.empty()) return std::string(hnr);
+    std::string cijfers;
     if (hoofdstelnummerautomatisch)
-        std::ranges::copy_if(record.waarde("co"), std::back_inserter(afgeleid),
-                             [](char c) { return c >= '0' && c <= '9'; });
-    if (afgeleid.empty()) afgeleid = std::to_string(n);
-    return std::string(last(afgeleid, 3));
+        std::ranges::copy_if(co, std::back_inserter(cijfers), [](char c) { return c >= '0' && c <= '9'; });
+    if (cijfers.empty()) cijfers = std::to_string(n);
+    if (cijfers.size() > 3) cijfers.erase(0, cijfers.size() - 3);
+    return cijfers;
 }
 
 void lees_combinatie(CombinatieRecord& entry, int n, const Schedule& schedule, const Clock& klok) {
     entry = {};
     if (n < 0 || n > hoogste_deelnemer) return;
-    const RecordItems record(schedule.deelnemer(n));
+    static const Sleutels sleutels(alle_sleutels);
+    std::array<std::string_view, alle_sleutels.size()> waarden;
+    sleutels.zoek(schedule.deelnemer(n), waarden);
+
     entry.nr = std::to_string(n);
-    entry.hnr = hoofdstelnummer(n, record, schedule.hoofdstelnummerautomatisch);
+    auto waarde = waarden.begin();
+    const std::string_view hnr = *waarde++;
     for (const TekstVeld& veld : tekst_velden)
-        entry.*veld.veld = record.waarde(veld.sleutel);
-    for (std::size_t discipline = 0; discipline < klasse_sleutels.size(); ++discipline) {
-        entry.klasse[discipline] = upper_case(record.waarde(klasse_sleutels[discipline]));
-        entry.dagen[discipline] = record.waarde(dagen_sleutels[discipline]);
-        for (const GetalVeld& veld : getal_velden)
-            (entry.*veld.veld)[discipline] = int16_of(record.waarde(veld.sleutels[discipline])).value_or(0);
-    }
+        entry.*veld.veld = *waarde++;
+    for (std::string& klasse : entry.klasse)
+        klasse = upper_case(*waarde++);
+    for (std::string& dagen : entry.dagen)
+        dagen = *waarde++;
+    for (const GetalVeld& veld : getal_velden)
+        for (std::int16_t& getal : entry.*veld.veld)
+            getal = int16_of(*waarde++).value_or(0);
+    entry.hnr = hoofdstelnummer(n, hnr, entry.co, schedule.hoofdstelnummerautomatisch);
     entry.naam_zonder_ster = removed(entry.na, "*");
     entry.geslacht = vertaal(geslacht_woord(entry.di_gs));
     entry.leeftijd = leeftijd_van(entry.di_gb, datum_tijd_tekst(klok.now(), "d-m-yyyy"));

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "basis/seams.h"
-#include "schedule/record/items.h"
 #include "schedule/record/schedule.h"
 
 #include <array>
@@ -65,9 +64,10 @@ struct CombinatieRecord {
     std::string leeftijd;         // the horse's age in whole years
 };
 
-// The head number of combination `n`: as written ("hnr"), or else n, or the digits of the combination number where the
-// file says so; what is derived is cut to its last three characters. "" for 0.
-[[nodiscard]] std::string hoofdstelnummer(int n, const RecordItems& record, bool hoofdstelnummerautomatisch);
+// The head number of combination `n`: as written (`hnr`), or else n, or the digits of the combination number (`co`)
+// where the file says so; what is derived is cut to its last three characters. "" for 0.
+[[nodiscard]] std::string hoofdstelnummer(int n, std::string_view hnr, std::string_view co,
+                                          bool hoofdstelnummerautomatisch);
 
 // Decodes combination n; a number outside 0 to 4000 leaves `entry` empty. Ages count to today on `klok`.
 void lees_combinatie(CombinatieRecord& entry, int n, const Schedule& schedule, const Clock& klok);

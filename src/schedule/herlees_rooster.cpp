@@ -184,11 +184,11 @@ void voeg_rooster_samen(Grid& doel, const Grid& bron, Schedule& schedule, Wijzig
 }
 
 bool herlees_rooster(std::string_view pad, const RoosterDoel& doel, Grid& grdImport, WijzigingenLijst* wijzigingen) {
-    const std::expected<std::string, GeenRooster> bytes = open_roosterbestand(pad);
-    if (!bytes) return false;
+    const std::expected<Roosterbestand, GeenRooster> bestand = open_roosterbestand(pad);
+    if (!bestand) return false;
     SilentMessages geen_berichten; // nobody asked for this read
     doel.schedule.wis_tabellen();
-    lees_regels(*bytes, doel.schedule, geen_berichten, doel.logboek);
+    lees_regels(bestand->regels(), doel.schedule, geen_berichten, doel.logboek);
     vul_rooster({grdImport, doel.schedule, doel.labels, geen_berichten, doel.logboek}, doel.schedule.rubriek_record);
     voeg_rooster_samen(doel.grid, grdImport, doel.schedule, wijzigingen);
     return true;

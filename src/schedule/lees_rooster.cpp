@@ -1,5 +1,6 @@
 #include "schedule/lees_rooster.h"
 
+#include "basis/byte_mask.h"
 #include "basis/codeBestand.h"
 #include "basis/number.h"
 #include "basis/text.h"
@@ -14,20 +15,18 @@ namespace {
 
 constexpr std::string_view eerste_regel = "[Vendalo 3.4]";
 
-// Cuts a text into lines. The next end of either kind is looked up once and kept, so that a file with ends of one kind
-// alone is still read in one pass.
+// Cuts a text into lines.
 class Regels {
   public:
-    explicit Regels(std::string_view tekst) : tekst_(tekst), cr_(tekst.find('\r')), lf_(tekst.find('\n')) {}
+    explicit Regels(std::string_view tekst) : tekst_(tekst), einden_(tekst, LineEnd()) {}
 
     // The next line without its end; nothing behind the last one.
     std::optional<std::string_view> volgende() {
         if (begin_ >= tekst_.size()) return std::nullopt;
-        if (cr_ < begin_) cr_ = tekst_.find('\r', begin_);
-        if (lf_ < begin_) lf_ = tekst_.find('\n', begin_);
-        const std::size_t einde = std::min({cr_, lf_, tekst_.size()});
+        const std::size_t einde = einden_.next();
         const std::string_view regel = tekst_.substr(begin_, einde - begin_);
-        begin_ = einde == cr_ && lf_ == cr_ + 1 ? einde + 2 : einde + 1;
+        begin_ = einde + 1;
+        if (begin_ < tekst_.size() && tekst_[einde] == '\r' && tekst_[begin_] == '\n') begin_ = einden_.next() + 1;
         return regel;
     }
     // What stands behind the lines taken so far.
@@ -35,9 +34,8 @@ class Regels {
 
   private:
     std::string_view tekst_;
+    Places<LineEnd> einden_;
     std::size_t begin_ = 0;
-    std::size_t cr_;
-    std::size_t lf_;
 };
 
 // Applies one line after the other.
@@ -59,7 +57,7 @@ class Lezer {
                 sla_over(sleutel, "getal past niet in 16 bits");
         } else if (sleutel == "hoofdstelnummerautomatisch") {
             lees_ja_nee(sleutel, waarde);
-        } else if (sleutel == "rubriek" || sleutel == "dnr" || sleutel == "rnr") {
+        } else if (sleutel == "dnr" || sleutel == "rubriek" || sleutel == "rnr") {
             lees_record(sleutel, waarde);
         }
     }
@@ -77,27 +75,36 @@ class Lezer {
             sla_over(sleutel, "geen ja of nee");
     }
 
+    // Number, tab, record.
     void lees_record(std::string_view sleutel, std::string_view waarde) {
         const std::size_t tab = waarde.find('\t');
         if (tab == std::string_view::npos) return sla_over(sleutel, "regel zonder tab");
-        const std::optional<std::int16_t> nummer = int16_of(waarde.substr(0, tab));
         const std::string_view record = waarde.substr(tab + 1);
+        const std::optional<std::int16_t> nummer = int16_of(waarde.substr(0, tab));
         if (!nummer) sla_over(sleutel, "nummer past niet in 16 bits");
 
         if (sleutel == "rnr") {
             if (nummer) schedule_.rubriek_nummer = *nummer;
-            schedule_.rubriek_record = from_windows_1252(record);
+            from_windows_1252(record, schedule_.rubriek_record);
         } else if (nummer && sleutel == "dnr") {
-            schedule_.laatste_dnr = *nummer;
-            if (*nummer < 0 || *nummer > hoogste_deelnemer) return sla_over(sleutel, "nummer buiten 0 tot 4000");
-            schedule_.zet_deelnemer(*nummer, from_windows_1252(record));
+            lees_deelnemer(*nummer, record);
         } else if (nummer) {
-            if (*nummer < 1 || *nummer > hoogste_rubriek) return sla_over(sleutel, "nummer buiten 1 tot 2000");
-            RubriekLijstRecord entry;
-            const auto gelezen = lees_rubriek_lijst(from_windows_1252(record), entry);
-            schedule_.zet_rubriek(*nummer, std::move(entry));
-            if (!gelezen) bericht(gelezen.error());
+            lees_rubriek(*nummer, record);
         }
+    }
+
+    void lees_deelnemer(std::int16_t nummer, std::string_view record) {
+        schedule_.laatste_dnr = nummer;
+        std::string* const plaats = schedule_.deelnemer_plaats(nummer);
+        if (!plaats) return sla_over("dnr", "nummer buiten 0 tot 4000");
+        from_windows_1252(record, *plaats);
+    }
+
+    void lees_rubriek(std::int16_t nummer, std::string_view record) {
+        std::string* const plaats = schedule_.rubriek_plaats(nummer);
+        if (!plaats) return sla_over("rubriek", "nummer buiten 1 tot 2000");
+        from_windows_1252(record, *plaats);
+        if (const auto gelezen = controleer_rubriek_lijst(*plaats); !gelezen) bericht(gelezen.error());
     }
 
     // The same message once for a file: an operator cannot click two thousand away.
@@ -132,14 +139,14 @@ std::string_view discipline_woord(std::int16_t ringtype) {
 
 } // namespace
 
-std::expected<std::string, GeenRooster> open_roosterbestand(std::string_view pad) {
+std::expected<Roosterbestand, GeenRooster> open_roosterbestand(std::string_view pad) {
     std::optional<BestandInhoud> inhoud = lees_bestand_met_begin(pad, eerste_regel);
     if (!inhoud) return std::unexpected(GeenRooster::niet_te_openen);
     Regels regels(inhoud->bytes);
     if (!inhoud->begin_klopt || regels.volgende() != eerste_regel)
         return std::unexpected(GeenRooster::andere_eerste_regel);
-    inhoud->bytes.erase(0, regels.positie());
-    return std::move(inhoud->bytes);
+    const std::size_t begin = regels.positie();
+    return Roosterbestand{std::move(inhoud->bytes), begin};
 }
 
 void lees_regels(std::string_view bytes, Schedule& schedule, MessageBox& berichten, SkipLog& logboek) {
@@ -163,9 +170,9 @@ std::string rooster_bijschrift(const Schedule& schedule, std::string_view pad) {
 }
 
 std::expected<std::string, GeenRooster> lees_rooster(std::string_view pad, const RoosterDoel& doel) {
-    const std::expected<std::string, GeenRooster> bytes = open_roosterbestand(pad);
-    if (!bytes) return std::unexpected(bytes.error());
-    lees_regels(*bytes, doel.schedule, doel.berichten, doel.logboek);
+    const std::expected<Roosterbestand, GeenRooster> bestand = open_roosterbestand(pad);
+    if (!bestand) return std::unexpected(bestand.error());
+    lees_regels(bestand->regels(), doel.schedule, doel.berichten, doel.logboek);
     vul_rooster(doel, doel.schedule.rubriek_record);
     doel.grid.set_row(1);
     doel.grid.set_column(1);

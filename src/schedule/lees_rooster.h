@@ -5,6 +5,7 @@
 
 #include "schedule/vul_rooster.h"
 
+#include <cstddef>
 #include <expected>
 #include <string>
 #include <string_view>
@@ -17,8 +18,13 @@ enum class GeenRooster { niet_te_openen, andere_eerste_regel };
 // the caption that the main window shows for it. On failure everything is as it was.
 [[nodiscard]] std::expected<std::string, GeenRooster> lees_rooster(std::string_view pad, const RoosterDoel& doel);
 
-// The lines below the first one. `bytes` are those of the whole file behind a right first line; nothing otherwise.
-[[nodiscard]] std::expected<std::string, GeenRooster> open_roosterbestand(std::string_view pad);
+// A file with the right first line.
+struct Roosterbestand {
+    std::string bytes;
+    std::size_t begin; // of the second line
+    [[nodiscard]] std::string_view regels() const { return std::string_view(bytes).substr(begin); }
+};
+[[nodiscard]] std::expected<Roosterbestand, GeenRooster> open_roosterbestand(std::string_view pad);
 // Applies the lines of such a file to the schedule. The values of the header begin anew, the tables are kept.
 void lees_regels(std::string_view bytes, Schedule& schedule, MessageBox& berichten, SkipLog& logboek);
 

@@ -19,7 +19,23 @@ namespace tavelo {
 namespace {
 
 using Item = std::optional<std::string_view>;
-using Cellen = std::vector<std::string>; // of one row, by column
+using Cellen = std::array<std::string_view, kolom_laatste + 1>; // of one row, by column
+
+// The texts one behind the other: in `ruimte`, or where it stands when only one of them says something.
+std::string_view samen(std::initializer_list<std::string_view> delen, std::string& ruimte) {
+    std::string_view enige;
+    std::size_t gevuld = 0;
+    for (const std::string_view deel : delen) {
+        if (deel.empty()) continue;
+        enige = deel;
+        ++gevuld;
+    }
+    if (gevuld <= 1) return enige;
+    ruimte.clear();
+    for (const std::string_view deel : delen)
+        ruimte.append(deel);
+    return ruimte;
+}
 
 // Steps through a record and remembers the last thing that went wrong.
 class Vuller {
@@ -30,6 +46,10 @@ class Vuller {
         Parts items(record, '\t');
         while (const Item deel = items.next()) {
             const std::string_view item = trimmed(*deel);
+            if (is_item_van(item, "dnr")) { // nearly all of them
+                voeg_rij_toe(trimmed(item.substr(4)), items);
+                continue;
+            }
             const std::string sleutel = sleutel_van(item);
             if (sleutel == "dnr")
                 voeg_rij_toe(waarde_van(item), items);
@@ -50,79 +70,92 @@ class Vuller {
 
     // An entry is its "dnr" item and six more that go by their place; only a pause uses them.
     void voeg_rij_toe(std::string_view inr, Parts& items) {
-        std::array<Item, 6> bijbehorend;
-        for (Item& item : bijbehorend)
-            item = items.next();
+        const Item lengte = items.next();
+        const Item tekst = items.next();
+        for (int i = 2; i < 6; ++i)
+            items.next();
 
-        const std::optional<std::int16_t> nummer = int16_of(inr);
-        int n = nummer.value_or(0);
-        if (!nummer) meld("dnr", fout_overloop);
-        if (nummer ? n > hoogste_deelnemer : leading_number(inr) > 0) {
+        int n = 0;
+        bool bestaat_niet = false;
+        if (const std::optional<std::int16_t> nummer = int16_of(inr)) {
+            n = *nummer;
+            bestaat_niet = n > hoogste_deelnemer;
+        } else {
+            meld("dnr", fout_overloop);
+            bestaat_niet = leading_number(inr) > 0;
+        }
+        if (bestaat_niet) {
             n = 0;
             inr = "0";
         }
         if (n < 0) meld("dnr", fout_index);
-        Cellen cellen(kolom_laatste + 1);
-        cellen[kolom_inr] = inr;
-        std::int32_t minuten = 0;
-        if (const std::string& deelnemer = doel_.schedule.deelnemer(n); n > 0 && !deelnemer.empty())
-            vul_combinatie(cellen, n, deelnemer, doel_.grid.rows());
+        const std::string& deelnemer = doel_.schedule.deelnemer(n);
+        if (n > 0 && !deelnemer.empty())
+            voeg_combinatie_toe(inr, n, deelnemer);
         else
-            minuten = vul_pauze(cellen, inr, bijbehorend[0], bijbehorend[1]);
-        const int rij = doel_.grid.append_row(std::vector<std::string_view>(cellen.begin(), cellen.end()));
-        doel_.grid.set_row_value(rij, minuten);
+            voeg_pauze_toe(inr, lengte, tekst);
     }
 
     // Only an upper-case "P" carries a length, which is the result, and a text.
-    std::int32_t vul_pauze(Cellen& cellen, std::string_view inr, const Item& lengte, const Item& tekst) {
+    void voeg_pauze_toe(std::string_view inr, const Item& lengte, const Item& tekst) {
+        Cellen cellen;
+        cellen[kolom_inr] = inr;
         cellen[kolom_naam] = "pauze";
-        if (inr != "P") return 0;
-        if (tekst) cellen[kolom_naam] = trimmed(*tekst);
-        const std::optional<std::int32_t> minuten = int32_of(lengte.value_or(""));
-        if (!minuten) meld("dnr", fout_overloop);
-        return minuten.value_or(0);
+        std::int32_t lengte_in_minuten = 0;
+        if (inr == "P") {
+            if (tekst) cellen[kolom_naam] = trimmed(*tekst);
+            const std::optional<std::int32_t> minuten = int32_of(lengte.value_or(""));
+            if (!minuten) meld("dnr", fout_overloop);
+            lengte_in_minuten = minuten.value_or(0);
+        }
+        doel_.grid.set_row_value(doel_.grid.append_row(cellen), lengte_in_minuten);
     }
 
     // A combination may stand in a start list any number of times; its record, of any size, is taken apart once.
-    void vul_combinatie(Cellen& cellen, int n, std::string_view deelnemer, int rij) {
-        if (rubriek_.rid != rid_ || rubriek_.rcom != rcom_) {
+    void voeg_combinatie_toe(std::string_view inr, int n, std::string_view deelnemer) {
+        if (!lezer_ || rubriek_.rid != rid_ || rubriek_.rcom != rcom_) {
             rid_ = rubriek_.rid;
             rcom_ = rubriek_.rcom;
+            lezer_.emplace(rcom_);
             eerste_rijen_.assign(eerste_rijen_.size(), 0);
         }
         int& eerste_rij = eerste_rijen_[static_cast<std::size_t>(n)];
         if (eerste_rij == 0) {
-            eerste_rij = rij;
-            vul_combinatie(cellen, n, deelnemer);
+            lezer_->lees(deelnemer, deelname_);
+            eerste_rij = voeg_deelname_toe(inr, n, deelname_);
             return;
         }
-        for (int kolom = kolom_hnr; kolom <= kolom_laatste; ++kolom)
+        Cellen cellen;
+        for (int kolom = kolom_inr; kolom <= kolom_laatste; ++kolom)
             cellen[static_cast<std::size_t>(kolom)] = doel_.grid.text(eerste_rij, kolom);
+        cellen[kolom_inr] = inr;
+        doel_.grid.append_row(cellen);
     }
 
-    void vul_combinatie(Cellen& cellen, int n, std::string_view deelnemer) const {
-        const RecordItems record(deelnemer);
-        const std::int16_t ringtype = rubriek_.rcom;
-        const DisciplineSleutels& sleutels = sleutels_van(ringtype);
-
-        cellen[kolom_hnr] = hoofdstelnummer(n, record, doel_.schedule.hoofdstelnummerautomatisch);
-        cellen[kolom_cnr] = record.waarde("co");
-        std::string& naam = cellen[kolom_naam];
-        naam = record.waarde("na");
-        naam.append(handicap_tekst(rubriek_.rid, ringtype, record))
-            .append(selectie_tekst(ringtype, record))
-            .append(impuls_tekst(ringtype, record));
+    // Gives the place of its row.
+    int voeg_deelname_toe(std::string_view inr, int n, const Deelname& deelname) {
+        const std::string hnr = hoofdstelnummer(n, deelname[Gegeven::hnr], deelname[Gegeven::co],
+                                                doel_.schedule.hoofdstelnummerautomatisch);
         // The star in front of a name stands for a coupé horse in this discipline and no other.
-        if (naam.starts_with('*')) naam.erase(0, 1);
-        if (!sleutels.coupe.empty() && record.staat_aan(sleutels.coupe)) naam.insert(0, "*");
-        cellen[kolom_hc] = handicap_kolom(rubriek_.rid, ringtype, record);
-        cellen[kolom_paard] = record.waarde("pa");
-        cellen[kolom_paard].append(resultaat_tekst(ringtype, record));
-        cellen[kolom_vader] = record.waarde("va");
-        cellen[kolom_vereniging] = record.waarde("ve");
-        if (!sleutels.klasse.empty()) cellen[kolom_kl] = record.waarde(sleutels.klasse);
-        const std::string_view categorie = record.waarde("ca");
-        cellen[kolom_cat] = categorie_namen(categorie, ringtype, categorie);
+        const std::string_view ster = deelname.staat_aan(Gegeven::coupe) ? "*" : "";
+        std::string_view naam = samen(
+            {deelname[Gegeven::na], handicap_tekst(rid_, deelname), selectie_tekst(deelname), impuls_tekst(deelname)},
+            naam_);
+        if (naam.starts_with('*')) naam.remove_prefix(1);
+        naam = samen({ster, naam}, naam_met_ster_);
+        const std::string categorie = categorie_namen(deelname[Gegeven::ca], rcom_, deelname[Gegeven::ca]);
+
+        cellen_[kolom_inr] = inr;
+        cellen_[kolom_hnr] = hnr;
+        cellen_[kolom_cnr] = deelname[Gegeven::co];
+        cellen_[kolom_naam] = naam;
+        cellen_[kolom_hc] = handicap_kolom(rid_, deelname);
+        cellen_[kolom_paard] = samen({deelname[Gegeven::pa], resultaat_tekst(deelname)}, paard_);
+        cellen_[kolom_vader] = deelname[Gegeven::va];
+        cellen_[kolom_vereniging] = deelname[Gegeven::ve];
+        cellen_[kolom_kl] = deelname[Gegeven::klasse];
+        cellen_[kolom_cat] = categorie;
+        return doel_.grid.append_row(cellen_);
     }
 
     const RoosterDoel& doel_;
@@ -133,6 +166,14 @@ class Vuller {
     std::vector<int> eerste_rijen_ = std::vector<int>(hoogste_deelnemer + 1);
     std::string rid_;
     std::int16_t rcom_ = 0;
+    std::optional<DeelnameLezer> lezer_;
+
+    // Of the combination at hand; kept because four thousand follow each other.
+    Deelname deelname_;
+    Cellen cellen_; // the first one, of the number and time, stays empty
+    std::string naam_;
+    std::string naam_met_ster_;
+    std::string paard_;
 };
 
 } // namespace

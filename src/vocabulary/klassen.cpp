@@ -80,9 +80,11 @@ std::vector<int> gekozen_nummers(std::string_view selectie) {
 std::string selectie(const RubriekRecord& rubriek, const Schedule& schedule, std::string RubriekLijstRecord::*veld,
                      std::string_view volgorde) {
     std::set<std::string> verzameld;
-    for (const int nummer : gekozen_nummers(rubriek.rrubi))
-        for (const std::string_view item : split(schedule.rubriek(nummer).*veld, "*"))
+    for (const int nummer : gekozen_nummers(rubriek.rrubi)) {
+        const RubriekLijstRecord entry = schedule.rubriek(nummer);
+        for (const std::string_view item : split(entry.*veld, "*"))
             verzameld.insert(upper_case(item));
+    }
     std::string tekst = "*";
     for (const std::string_view item : split(volgorde, " "))
         if (verzameld.contains(std::string(item))) tekst.append(item).append("*");

@@ -3,6 +3,7 @@
 #include "basis/codeBestand.h"
 #include "basis/number.h"
 #include "basis/text.h"
+#include "fakes/heap.h"
 #include "schedule/roosterproef.h"
 #include "schedule/toeval.h"
 
@@ -383,6 +384,20 @@ TEST(LeesRooster, vijf_megabyte_rommel_achter_een_goede_eerste_regel_wordt_verdr
     ASSERT_TRUE(proef.lees_bytes(tekst));
     EXPECT_EQ(proef.cel(1, kolom_naam), "Jan");
     EXPECT_EQ(proef.schedule.huidige_rubriek.roms, "Finale");
+}
+
+TEST(LeesRooster, de_ruimte_van_reusachtige_records_komt_bij_het_wissen_terug) {
+    Roosterproef proef;
+    proef.schedule.zet_deelnemer(1, "na:Jan");
+    const std::size_t voor = test::heap_bytes();
+    proef.schedule.zet_deelnemer(2, std::string(10'000'000, 'x'));
+    proef.schedule.zet_rubriek(2, std::string(10'000'000, 'x'));
+    EXPECT_GT(test::heap_bytes(), voor + 20'000'000);
+    proef.schedule.wis_tabellen();
+    EXPECT_LE(test::heap_bytes(), voor);
+    EXPECT_EQ(proef.schedule.deelnemer(1), "");
+    EXPECT_EQ(proef.schedule.deelnemer(2), "");
+    EXPECT_EQ(proef.schedule.rubriek(2), RubriekLijstRecord());
 }
 
 } // namespace

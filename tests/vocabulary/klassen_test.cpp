@@ -51,10 +51,7 @@ struct Selectie {
         gekozen.rcat = "*X*";
     }
     void zet(int nummer, std::string_view klassen, std::string_view categorieen) {
-        RubriekLijstRecord entry;
-        entry.klasse = klassen;
-        entry.cat = categorieen;
-        schedule.zet_rubriek(nummer, entry);
+        schedule.zet_rubriek(nummer, std::string("klasse:").append(klassen).append("\tcat:").append(categorieen));
     }
     [[nodiscard]] std::string klassen() const { return klasse_kop(gekozen, schedule); }
     [[nodiscard]] std::string categorieen() const { return categorie_kop(gekozen, schedule); }

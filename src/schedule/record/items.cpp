@@ -2,7 +2,7 @@
 
 #include "basis/text.h"
 
-#include <span>
+#include <algorithm>
 
 namespace tavelo {
 
@@ -49,36 +49,27 @@ std::string_view zoek_waarde(std::string_view sleutel, std::string_view record) 
     }
 }
 
-RecordItems::RecordItems(std::string_view record) {
-    Parts items(record, '\t');
-    while (aantal_ < meeste_items) {
-        const std::optional<std::string_view> item = items.next();
-        if (!item) return;
-        items_[aantal_++] = *item;
-        std::size_t vak = eerste_vak(*item);
-        while (vakken_[vak] != 0)
-            vak = (vak + 1) % aantal_vakken;
-        vakken_[vak] = static_cast<std::uint8_t>(aantal_);
+Sleutels::Sleutels(std::span<const std::string_view> sleutels) : sleutels_(sleutels) {
+    for (std::uint32_t nummer = 0; nummer < sleutels.size(); ++nummer) {
+        if (sleutels[nummer].empty() || sleutels[nummer].find_first_of(":\t") != std::string_view::npos) continue;
+        const std::string item = std::string(sleutels[nummer]) + ":";
+        const std::uint64_t begin = eerste_acht(item);
+        const std::uint64_t masker = item.size() >= sizeof begin ? ~0ULL : (1ULL << 8 * item.size()) - 1;
+        std::size_t vak = eerste_vak(begin);
+        while (vakken_[vak].masker != 0)
+            vak = volgend_vak(vak);
+        vakken_[vak] = {masker, begin, nummer, static_cast<std::uint32_t>(sleutels[nummer].size())};
     }
-    rest_ = items.rest();
 }
 
-std::size_t RecordItems::eerste_vak(std::string_view item) {
-    std::size_t vak = 0;
-    for (const char c : item.substr(0, 4)) {
-        if (c == ':') break;
-        vak = vak * 37 + static_cast<unsigned char>(c);
-    }
-    return vak % aantal_vakken;
-}
-
-std::string_view RecordItems::waarde(std::string_view sleutel) const {
-    // Items that begin alike stand behind each other in the order of the record, so the first of two equal keys is
-    // found.
-    for (std::size_t vak = eerste_vak(sleutel); vakken_[vak] != 0; vak = (vak + 1) % aantal_vakken)
-        if (const std::string_view item = items_[vakken_[vak] - 1U]; is_item_van(item, sleutel))
-            return item.substr(sleutel.size() + 1);
-    return zoek_waarde(sleutel, rest_);
+void Sleutels::zoek(std::string_view record, std::span<std::string_view> waarden) const {
+    std::ranges::fill(waarden, std::string_view());
+    doorloop(
+        record,
+        [&](std::size_t nummer, std::string_view waarde) {
+            if (waarden[nummer].data() == nullptr) waarden[nummer] = waarde; // the first one counts
+        },
+        [](std::string_view) {});
 }
 
 std::string zet_waarde(std::string_view sleutel, std::string_view record, std::string_view waarde) {
@@ -108,6 +99,22 @@ std::string zet_waarde(std::string_view sleutel, std::string_view record, std::s
     return resultaat;
 }
 
+bool heeft_waarde_al(std::string_view sleutel, std::string_view record, std::string_view waarde) {
+    if (record.starts_with('\t') || record.ends_with('\t')) return false;
+    bool gevonden = false;
+    Parts items(record, '\t');
+    while (const std::optional<std::string_view> item = items.next()) {
+        const bool is_getrimd = item->empty() || (item->front() != ' ' && item->back() != ' ');
+        if (heeft_sleutel(is_getrimd ? *item : trimmed(*item), sleutel)) {
+            if (!is_item_van(*item, sleutel) || item->substr(sleutel.size() + 1) != waarde) return false;
+            gevonden = true;
+        } else if (!is_getrimd) {
+            return false;
+        }
+    }
+    return trimmed(waarde).empty() ? !gevonden && waarde.empty() : gevonden;
+}
+
 std::string klasse_tekst(std::string_view tekst) {
     if (tekst.ends_with('*')) tekst.remove_suffix(1);
     if (tekst.starts_with('*')) tekst.remove_prefix(1);
@@ -115,9 +122,28 @@ std::string klasse_tekst(std::string_view tekst) {
 }
 
 std::string_view discipline_code(std::int16_t ringtype) {
+    switch (discipline_van(ringtype)) {
+    case Discipline::dressuur:
+        return ringtype == 0 ? "D" : "AD";
+    case Discipline::springen:
+        return "S";
+    case Discipline::mennen_dressuur:
+        return "MD";
+    case Discipline::mennen_vaardigheid:
+        return "MV";
+    case Discipline::geen:
+        break;
+    }
+    return "";
+}
+
+Discipline discipline_van(std::int16_t ringtype) {
     switch (ringtype) {
     case 0:
-        return "D";
+    case 12: // 12, 13 and 15 are ridden by teams
+    case 13:
+    case 15:
+        return Discipline::dressuur;
     case 1:
     case 2:
     case 3:
@@ -129,29 +155,16 @@ std::string_view discipline_code(std::int16_t ringtype) {
     case 14:
     case 16:
     case 17:
-        return "S";
+        return Discipline::springen;
     case 7:
-        return "MD";
+        return Discipline::mennen_dressuur;
     case 8:
     case 9:
     case 18:
-        return "MV";
-    case 12:
-    case 13:
-    case 15:
-        return "AD";
+        return Discipline::mennen_vaardigheid;
     default:
-        return "";
+        return Discipline::geen;
     }
-}
-
-Discipline discipline_van(std::int16_t ringtype) {
-    const std::string_view code = discipline_code(ringtype);
-    if (code == "D" || code == "AD") return Discipline::dressuur;
-    if (code == "S") return Discipline::springen;
-    if (code == "MD") return Discipline::mennen_dressuur;
-    if (code == "MV") return Discipline::mennen_vaardigheid;
-    return Discipline::geen;
 }
 
 } // namespace tavelo

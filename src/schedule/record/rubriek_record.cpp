@@ -122,6 +122,23 @@ void zet_genummerd(std::array<std::string, N>& rij, int plaats, std::string_view
     if (plaats >= 0 && static_cast<std::size_t>(plaats) < N) rij[static_cast<std::size_t>(plaats)] = waarde;
 }
 
+constexpr auto lijst_sleutels = [] {
+    std::array<std::string_view, lijst_velden.size()> sleutels;
+    std::ranges::transform(lijst_velden, sleutels.begin(), &RubriekLijstVeld::sleutel);
+    return sleutels;
+}();
+
+// Gives every item of an entry that has a field: the number of the field and the value.
+template <class Neem>
+void voor_elk_lijst_veld(std::string_view record, Neem neem) {
+    static const Sleutels sleutels(lijst_sleutels);
+    sleutels.doorloop(record, neem, [&](std::string_view item) {
+        const auto sleutel = std::ranges::find(lijst_sleutels, sleutel_van(item));
+        if (sleutel != lijst_sleutels.end())
+            neem(static_cast<std::size_t>(sleutel - lijst_sleutels.begin()), item.substr(item.find(':') + 1));
+    });
+}
+
 } // namespace
 
 std::span<const RubriekVeld> rubriek_velden() { return velden; }
@@ -167,21 +184,23 @@ std::expected<void, std::string> zet_rubriek_veld(RubriekRecord& rubriek, std::s
 std::span<const RubriekLijstVeld> rubriek_lijst_velden() { return lijst_velden; }
 
 std::expected<void, std::string> lees_rubriek_lijst(std::string_view record, RubriekLijstRecord& entry) {
-    // The suite writes the keys in the order of the table, so the field behind the last one is tried first.
-    auto verwacht = lijst_velden.begin();
-    Parts items(record, '\t');
-    while (const std::optional<std::string_view> item = items.next()) {
-        auto veld = verwacht;
-        if (veld == lijst_velden.end() || !is_item_van(*item, veld->sleutel))
-            veld = std::ranges::find(lijst_velden, sleutel_van(*item), &RubriekLijstVeld::sleutel);
-        if (veld == lijst_velden.end()) continue;
-        verwacht = veld + 1;
-        const std::string_view waarde = item->substr(item->find(':') + 1);
-        if (const auto* tekst = std::get_if<std::string L::*>(&veld->veld))
+    std::expected<void, std::string> gelezen;
+    voor_elk_lijst_veld(record, [&](std::size_t nummer, std::string_view waarde) {
+        if (!gelezen) return;
+        if (const auto* tekst = std::get_if<std::string L::*>(&lijst_velden[nummer].veld))
             entry.*(*tekst) = waarde;
-        else if (auto gezet = zet_getal(entry.*std::get<std::int16_t L::*>(veld->veld), waarde); !gezet)
-            return gezet;
-    }
+        else
+            gelezen = zet_getal(entry.*std::get<std::int16_t L::*>(lijst_velden[nummer].veld), waarde);
+    });
+    return gelezen;
+}
+
+std::expected<void, std::string> controleer_rubriek_lijst(std::string_view record) {
+    bool past = true;
+    voor_elk_lijst_veld(record, [&](std::size_t nummer, std::string_view waarde) {
+        if (std::holds_alternative<std::int16_t L::*>(lijst_velden[nummer].veld) && !int16_of(waarde)) past = false;
+    });
+    if (!past) return std::unexpected(std::string(fout_overloop));
     return {};
 }
 

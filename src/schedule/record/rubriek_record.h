@@ -120,5 +120,7 @@ struct RubriekLijstVeld {
 // Decodes a record into `entry`; values are not trimmed, a repeated key overwrites. At a number that does not fit,
 // decoding ends with the description of the error and the fields decoded so far stay.
 [[nodiscard]] std::expected<void, std::string> lees_rubriek_lijst(std::string_view record, RubriekLijstRecord& entry);
+// What decoding the record would end with.
+[[nodiscard]] std::expected<void, std::string> controleer_rubriek_lijst(std::string_view record);
 
 } // namespace tavelo

@@ -25,18 +25,21 @@ class Schedule {
 
     // The record of a combination, "" when there is none; a number outside 0 to 4000 has none.
     [[nodiscard]] const std::string& deelnemer(int nummer) const;
-    void zet_deelnemer(int nummer, std::string record);
+    void zet_deelnemer(int nummer, std::string_view record);
+    // The same record, to be written where it is kept; null when there is none.
+    [[nodiscard]] std::string* deelnemer_plaats(int nummer);
 
-    // An entry of the list of classes; an empty one for a number outside 1 to 2000.
-    [[nodiscard]] const RubriekLijstRecord& rubriek(int nummer) const;
-    void zet_rubriek(int nummer, RubriekLijstRecord entry);
+    // An entry of the list of classes, taken from its record here; an empty one for a number outside 1 to 2000.
+    [[nodiscard]] RubriekLijstRecord rubriek(int nummer) const;
+    void zet_rubriek(int nummer, std::string_view record);
+    [[nodiscard]] std::string* rubriek_plaats(int nummer);
 
     // Empties both tables.
     void wis_tabellen();
 
   private:
     std::vector<std::string> deelnemers_ = std::vector<std::string>(hoogste_deelnemer + 1);
-    std::vector<RubriekLijstRecord> rubrieken_ = std::vector<RubriekLijstRecord>(hoogste_rubriek + 1);
+    std::vector<std::string> rubrieken_ = std::vector<std::string>(hoogste_rubriek + 1);
 };
 
 } // namespace tavelo

@@ -39,20 +39,43 @@ TEST(Items, een_gezochte_waarde_wordt_niet_getrimd_en_de_eerste_wint) {
     EXPECT_EQ(zoek_waarde("na", "na:a:b"), "a:b");
 }
 
-TEST(Items, een_gedeeld_record_antwoordt_als_zoek_waarde) {
-    std::string lang = "co:eerste\tco:tweede\tlos\t:leeg\ta:1\t";
+TEST(Items, een_lijst_sleutels_vindt_in_een_keer_wat_zoek_waarde_vindt) {
+    std::string lang = "co:eerste\tco:tweede\tlos\t:leeg\ta:1\tmedr_dagen:za\tmedr_dag:zo\t";
     for (int i = 0; i < 100; ++i)
         lang += "k" + std::to_string(i) + ":" + std::to_string(i) + "\t";
     lang += "laatste:x";
-    for (const std::string& record : {lang, std::string(), std::string("co"), std::string("na:Jan\td_coup:1")}) {
-        const RecordItems items(record);
-        for (const std::string_view sleutel : {"co", "a", "los", "na", "d_coup", "coup", "laatste", "k", "CO"})
-            EXPECT_EQ(items.waarde(sleutel), zoek_waarde(sleutel, record)) << sleutel;
-        for (int i = 0; i < 100; ++i) {
-            const std::string sleutel = "k" + std::to_string(i);
-            EXPECT_EQ(items.waarde(sleutel), zoek_waarde(sleutel, record)) << sleutel;
-        }
+    std::vector<std::string> namen = {"co", "a",       "los", "na",       "d_coup",    "coup",
+                                      "k",  "laatste", "CO",  "medr_dag", "medr_dagen"};
+    for (int i = 0; i < 100; ++i)
+        namen.push_back("k" + std::to_string(i));
+    const std::vector<std::string_view> gezocht(namen.begin(), namen.end());
+    const Sleutels sleutels(gezocht);
+    for (const std::string& record :
+         {lang, std::string(), std::string("co"), std::string("na:Jan\td_coup:1"), std::string("medr_dagen:")}) {
+        std::vector<std::string_view> waarden(gezocht.size(), "van een vorig record");
+        sleutels.zoek(record, waarden);
+        for (std::size_t i = 0; i < gezocht.size(); ++i)
+            EXPECT_EQ(waarden[i], zoek_waarde(gezocht[i], record)) << gezocht[i];
     }
+}
+
+TEST(Items, een_lege_sleutel_en_een_met_een_scheiding_worden_nooit_gevonden) {
+    const std::vector<std::string_view> gezocht = {"", "a:b", "a\tb", "a"};
+    std::vector<std::string_view> waarden(gezocht.size());
+    Sleutels(gezocht).zoek(":leeg\ta:b:c\tb:d", waarden);
+    EXPECT_EQ(waarden, (std::vector<std::string_view>{"", "", "", "b:c"}));
+}
+
+TEST(Items, een_doorloop_geeft_elk_item_in_volgorde) {
+    const std::vector<std::string_view> gezocht = {"oms", "com"};
+    std::vector<std::string> gehoord;
+    Sleutels(gezocht).doorloop(
+        "com:1\tOMS:x\t\toms:\tcom:2",
+        [&](std::size_t nummer, std::string_view waarde) {
+            gehoord.push_back(std::string(gezocht[nummer]) + "=" + std::string(waarde));
+        },
+        [&](std::string_view item) { gehoord.push_back("?" + std::string(item)); });
+    EXPECT_EQ(gehoord, (std::vector<std::string>{"com=1", "?OMS:x", "?", "oms=", "com=2"}));
 }
 
 TEST(Items, in_elk_record_is_zoeken_hetzelfde_als_zoeken_tussen_twee_tabs) {
@@ -67,6 +90,8 @@ TEST(Items, in_elk_record_is_zoeken_hetzelfde_als_zoeken_tussen_twee_tabs) {
     // Keys that begin alike, are each other's tail, or differ by case alone.
     const std::vector<std::string> sleutels = {"co",    "d_co", "coup",   "d_coup", "co1", "CO", "c",   "di_st",
                                                "di_sa", "di_s", "di_str", "é",      "na",  "pa", "mva", "va"};
+    const std::vector<std::string_view> gezocht(sleutels.begin(), sleutels.end());
+    const Sleutels lijst(gezocht);
     const std::vector<std::string> losse_delen = {"", " ", "\t", "\t\t", ":", ":x", "co", "co :1", " co:1", "a:b:c"};
     const std::uint32_t begin = test::beginwaarde(1811);
     std::cout << "TAVELO_SEED=" << begin << '\n';
@@ -78,12 +103,12 @@ TEST(Items, in_elk_record_is_zoeken_hetzelfde_als_zoeken_tussen_twee_tabs) {
             record += toeval.een_op(4) ? toeval.uit(losse_delen)
                                        : toeval.uit(sleutels) + ":" + std::to_string(toeval.onder(3));
         }
-        const RecordItems gedeeld(record);
-        for (const std::string& sleutel : sleutels) {
-            const std::string verwacht = tussen_tabs(sleutel, record);
-            ASSERT_EQ(zoek_waarde(sleutel, record), verwacht) << sleutel << " in " << record;
-            ASSERT_EQ(gedeeld.waarde(sleutel), verwacht) << sleutel << " in " << record;
-            ASSERT_EQ(gedeeld.staat_aan(sleutel), verwacht == "1");
+        std::vector<std::string_view> waarden(sleutels.size());
+        lijst.zoek(record, waarden);
+        for (std::size_t i = 0; i < sleutels.size(); ++i) {
+            const std::string verwacht = tussen_tabs(sleutels[i], record);
+            ASSERT_EQ(zoek_waarde(sleutels[i], record), verwacht) << sleutels[i] << " in " << record;
+            ASSERT_EQ(waarden[i], verwacht) << sleutels[i] << " in " << record;
         }
     }
 }
@@ -112,6 +137,27 @@ TEST(Items, de_andere_items_worden_getrimd_en_een_tab_aan_de_rand_verdwijnt) {
     EXPECT_EQ(zet_waarde("co", " na:Jan \t\t pa:Bles\tco:1", "2"), "na:Jan\t\tpa:Bles\tco:2");
     EXPECT_EQ(zet_waarde("co", "\tna:Jan\t", ""), "na:Jan");
     EXPECT_EQ(zet_waarde("co", "\t\tna:Jan\t\t", ""), "\tna:Jan\t"); // one on each side
+}
+
+TEST(Items, een_record_heeft_een_waarde_al_als_zetten_niets_verandert) {
+    const std::vector<std::string> items = {"",      " ",    "na:Jan", "na:Jan ", " na:Jan", "co",
+                                            "co:",   "co:1", "co: 1",  ":x",      "co:1 ",   "co :1",
+                                            " co:1", "CO:1", "co:2",   "d_co:1",  "coup:1"};
+    const std::vector<std::string> waarden = {"", " ", "1", " 1", "1 ", "2", "x"};
+    const std::uint32_t begin = test::beginwaarde(1812);
+    std::cout << "TAVELO_SEED=" << begin << '\n';
+    test::Toeval toeval(begin);
+    int dezelfde = 0;
+    for (int keer = 0; keer < 20000; ++keer) {
+        std::string record;
+        for (int aantal = toeval.onder(4); aantal > 0; --aantal)
+            record += (record.empty() && !toeval.een_op(10) ? "" : "\t") + toeval.uit(items);
+        const std::string& waarde = toeval.uit(waarden);
+        const bool is_gelijk = zet_waarde("co", record, waarde) == record;
+        ASSERT_EQ(heeft_waarde_al("co", record, waarde), is_gelijk) << "[" << record << "] [" << waarde << "]";
+        dezelfde += is_gelijk;
+    }
+    EXPECT_GT(dezelfde, 1000);
 }
 
 TEST(Items, een_sterrenlijst_wordt_een_lijst_met_kommas) {

@@ -181,11 +181,8 @@ TEST_F(RubriekKop, mennen_noemt_de_categorieen_voluit) {
 TEST_F(RubriekKop, bij_een_gezamenlijke_inschrijving_komen_ze_uit_de_gekozen_rubrieken) {
     schedule.singlesignin = 1;
     schedule.huidige_rubriek.rrubi = "1,2";
-    const auto zet = [&](int nummer, std::string klasse, std::string cat) {
-        RubriekLijstRecord entry;
-        entry.klasse = std::move(klasse);
-        entry.cat = std::move(cat);
-        schedule.zet_rubriek(nummer, std::move(entry));
+    const auto zet = [&](int nummer, const std::string& klasse, const std::string& cat) {
+        schedule.zet_rubriek(nummer, "klasse:" + klasse + "\tcat:" + cat);
     };
     zet(1, "B", "C");
     zet(2, "L1", "D");

@@ -378,8 +378,8 @@ TEST(AutoImport, het_grid_volgt_een_slechte_schrijver_door_duizenden_storingen) 
     SlechteSchrijver schrijver(toeval);
     constexpr int stappen = 3000;
     constexpr int ronde = 500;
-    constexpr std::size_t speling = 4096; // room that vectors keep
-    std::size_t geheugen = 0;             // after the first round
+    constexpr std::size_t speling = 131072; // room that records and grids keep; sixty bytes lost a step would be more
+    std::size_t geheugen = 0;               // after the first round
     for (int stap = 0; stap < stappen; ++stap) {
         schrijver.stap();
         ASSERT_NO_FATAL_FAILURE(schrijver.vergelijk()) << "step " << stap;

@@ -81,10 +81,8 @@ TEST(RoosterGrid, wissen_leegt_het_rooster_en_laat_de_titelrij_staan) {
     p.grdRooster.set_rows(4);
     p.schedule.zet_deelnemer(0, "na:Nul");
     p.schedule.zet_deelnemer(4000, "na:Jan");
-    RubriekLijstRecord entry;
-    entry.oms = "Proef";
-    p.schedule.zet_rubriek(1, entry);
-    p.schedule.zet_rubriek(2000, entry);
+    p.schedule.zet_rubriek(1, "oms:Proef");
+    p.schedule.zet_rubriek(2000, "oms:Proef");
     p.schedule.rubriek_record = "rkla:*B*";
     p.schedule.rubriek_nummer = 7;
     wis_rooster(o.bediening);

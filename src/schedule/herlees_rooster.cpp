@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -39,23 +40,50 @@ bool is_anders(int kolom, std::string_view oud, std::string_view nieuw) {
     }
 }
 
+// A row for every number. Nearly all are numbers of combinations.
+class RijPerNummer {
+  public:
+    // Nothing for a number without a row.
+    [[nodiscard]] std::optional<int> zoek(double nummer) const {
+        if (is_combinatie(nummer)) {
+            const int rij = combinaties_[static_cast<std::size_t>(nummer)];
+            return rij != 0 ? std::optional(rij) : std::nullopt;
+        }
+        const auto gevonden = overige_.find(nummer);
+        return gevonden != overige_.end() ? std::optional(gevonden->second) : std::nullopt;
+    }
+    // The first row of a number counts; `rij` is not the title row.
+    void voeg_toe(double nummer, int rij) {
+        if (!is_combinatie(nummer))
+            overige_.try_emplace(nummer, rij);
+        else if (int& plaats = combinaties_[static_cast<std::size_t>(nummer)]; plaats == 0)
+            plaats = rij;
+    }
+
+  private:
+    [[nodiscard]] static bool is_combinatie(double nummer) {
+        return nummer >= 0 && nummer <= hoogste_deelnemer && nummer == std::floor(nummer);
+    }
+
+    std::vector<int> combinaties_ = std::vector<int>(hoogste_deelnemer + 1); // 0 is none
+    std::unordered_map<double, int> overige_;
+};
+
 // Finds rows by number, in constant time, while rows are inserted. Where a number stands more than once the first row
 // counts. Rows are inserted from the top down: what stands above the last one, inserted or older, never moves again,
 // and the older rows below it have moved down by all rows inserted so far.
 class RijenIndex {
   public:
     explicit RijenIndex(const Grid& grid) {
-        oude_rijen_.reserve(static_cast<std::size_t>(grid.rows()));
         for (int rij = 1; rij < grid.rows(); ++rij)
-            if (const double nummer = nummer_van(grid, rij); nummer > 0) oude_rijen_.emplace(nummer, rij);
+            if (const double nummer = nummer_van(grid, rij); nummer > 0) oude_rijen_.voeg_toe(nummer, rij);
     }
 
     [[nodiscard]] std::optional<int> zoek(double nummer) const {
-        if (const auto nieuw = nieuwe_rijen_.find(nummer); nieuw != nieuwe_rijen_.end()) return nieuw->second;
-        const auto oud = oude_rijen_.find(nummer);
-        if (oud == oude_rijen_.end()) return std::nullopt;
-        const int rij = oud->second;
-        return rij < eerste_verschuivende() ? vaste_rijen_[static_cast<std::size_t>(rij)] : rij + ingevoegd_;
+        if (const std::optional<int> nieuw = nieuwe_rijen_.zoek(nummer)) return nieuw;
+        const std::optional<int> oud = oude_rijen_.zoek(nummer);
+        if (!oud) return std::nullopt;
+        return *oud < eerste_verschuivende() ? vaste_rijen_[static_cast<std::size_t>(*oud)] : *oud + ingevoegd_;
     }
 
     // `rij` is beyond every row inserted before.
@@ -63,15 +91,15 @@ class RijenIndex {
         while (eerste_verschuivende() + ingevoegd_ < rij)
             vaste_rijen_.push_back(eerste_verschuivende() + ingevoegd_);
         ++ingevoegd_;
-        nieuwe_rijen_.emplace(nummer, rij);
+        nieuwe_rijen_.voeg_toe(nummer, rij);
     }
 
   private:
     // Of the older rows, as they stood before the merge.
     [[nodiscard]] int eerste_verschuivende() const { return static_cast<int>(vaste_rijen_.size()); }
 
-    std::unordered_map<double, int> oude_rijen_; // position before the merge
-    std::unordered_map<double, int> nieuwe_rijen_;
+    RijPerNummer oude_rijen_; // where they stood before the merge
+    RijPerNummer nieuwe_rijen_;
     std::vector<int> vaste_rijen_; // where the older rows above the last inserted one stand now
     int ingevoegd_ = 0;
 };
@@ -150,7 +178,8 @@ class Samenvoeging {
     void bewaar_cnr(double nummer, std::string_view cnr) {
         const std::optional<std::int32_t> n = to_int32(nummer);
         if (!n || *n > hoogste_deelnemer) return;
-        schedule_.zet_deelnemer(*n, zet_waarde("co", schedule_.deelnemer(*n), cnr));
+        const std::string& record = schedule_.deelnemer(*n);
+        if (!heeft_waarde_al("co", record, cnr)) schedule_.zet_deelnemer(*n, zet_waarde("co", record, cnr));
     }
 
     void voeg_in(int bronrij, double nummer) {

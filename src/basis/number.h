@@ -36,6 +36,7 @@ namespace tavelo {
 [[nodiscard]] std::optional<std::int16_t> to_int16(double value);
 [[nodiscard]] std::optional<std::int32_t> to_int32(double value);
 
+// Inline, because an optional of two bytes that comes from a call is waited for longer than reading its digits takes.
 [[nodiscard]] inline std::optional<std::int16_t> int16_of(std::string_view text) {
     if (const std::optional<int> whole = short_whole_number(text)) return static_cast<std::int16_t>(*whole);
     return to_int16(leading_number(text));

@@ -480,6 +480,12 @@ void frmTavelo::muiswiel_hook() { qApp->installEventFilter(this); }
 void frmTavelo::muiswiel_unhook() { qApp->removeEventFilter(this); }
 
 bool frmTavelo::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease) { // chooses the slot and reads nothing: it is meant so
+        const auto knop = static_cast<const QMouseEvent&>(*event).button();
+        const auto slot = std::ranges::find(btnRooster_, receiver);
+        if (slot != btnRooster_.end() && knop != Qt::LeftButton && knop != Qt::RightButton)
+            druk_slot(static_cast<int>(slot - btnRooster_.begin()), Muisknop::anders);
+    }
     if (event->type() != QEvent::Wheel) return QMainWindow::eventFilter(receiver, event);
     const auto* besturing = qobject_cast<QWidget*>(receiver);
     if (!besturing || besturing->window() != this) return QMainWindow::eventFilter(receiver, event);

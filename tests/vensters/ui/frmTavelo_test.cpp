@@ -281,6 +281,25 @@ TEST_F(FrmTavelo, de_slotknoppen_staan_in_en_uit_en_rechts_vraagt_een_ander_best
     EXPECT_EQ(grdRooster().model()->rowCount(), 3);
 }
 
+TEST_F(FrmTavelo, een_andere_muisknop_maakt_een_slot_het_huidige_zonder_te_laden) {
+    auto& slot0 = vind<QToolButton>("btnRooster_0");
+    auto& slot1 = vind<QToolButton>("btnRooster_1");
+    open_nummers({1});
+    for (const Qt::MouseButton knop : {Qt::MiddleButton, Qt::BackButton}) {
+        QTest::mouseClick(&slot1, knop);
+        EXPECT_EQ(programma.rooster_slot, 1);
+        EXPECT_EQ(programma.rooster_bestand, "");
+        EXPECT_TRUE(slot1.isChecked());
+        EXPECT_FALSE(slot0.isChecked());
+        QTest::mouseClick(&slot0, knop);
+        EXPECT_EQ(programma.rooster_slot, 0);
+        EXPECT_TRUE(slot0.isChecked());
+        EXPECT_FALSE(slot1.isChecked());
+    }
+    EXPECT_EQ(opstelling.open_dialoog.requests.size(), 1U); // of the list that is open
+    EXPECT_EQ(grdRooster().model()->rowCount(), 1);
+}
+
 TEST_F(FrmTavelo, afsluiten_met_de_muis_doet_niets_en_alt_f4_sluit) {
     vind<QAction>("mnuBestand4").trigger();
     EXPECT_TRUE(venster->isVisible());

@@ -47,15 +47,14 @@ constexpr std::array getal_velden = std::to_array<GetalVeld>({
 constexpr PerDiscipline klasse_sleutels = {"dk", "sk", "mdk", "mvk"};
 constexpr PerDiscipline dagen_sleutels = {"dr_dagen", "sp_dagen", "medr_dagen", "meva_dagen"};
 
-// All keys, in the order in which `lees_combinatie` takes their values.
+// The keys of all others, in the order in which `lees_combinatie` takes their values.
 constexpr auto alle_sleutels = [] {
-    std::array<std::string_view, 1 + tekst_velden.size() + 4 * (2 + getal_velden.size())> alle;
+    std::array<std::string_view, 1 + tekst_velden.size() + 4 * (1 + getal_velden.size())> alle;
     auto sleutel = alle.begin();
     *sleutel++ = "hnr";
     for (const TekstVeld& veld : tekst_velden)
         *sleutel++ = veld.sleutel;
     sleutel = std::ranges::copy(klasse_sleutels, sleutel).out;
-    sleutel = std::ranges::copy(dagen_sleutels, sleutel).out;
     for (const GetalVeld& veld : getal_velden)
         sleutel = std::ranges::copy(veld.sleutels, sleutel).out;
     return alle;
@@ -101,7 +100,8 @@ void lees_combinatie(CombinatieRecord& entry, int n, const Schedule& schedule, c
     if (n < 0 || n > hoogste_deelnemer) return;
     static const Sleutels sleutels(alle_sleutels);
     std::array<std::string_view, alle_sleutels.size()> waarden;
-    sleutels.zoek(schedule.deelnemer(n), waarden);
+    const std::string& record = schedule.deelnemer(n);
+    sleutels.zoek(record, waarden);
 
     entry.nr = std::to_string(n);
     auto waarde = waarden.begin();
@@ -110,11 +110,11 @@ void lees_combinatie(CombinatieRecord& entry, int n, const Schedule& schedule, c
         entry.*veld.veld = *waarde++;
     for (std::string& klasse : entry.klasse)
         klasse = upper_case(*waarde++);
-    for (std::string& dagen : entry.dagen)
-        dagen = *waarde++;
     for (const GetalVeld& veld : getal_velden)
         for (std::int16_t& getal : entry.*veld.veld)
             getal = int16_of(*waarde++).value_or(0);
+    for (std::size_t i = 0; i < dagen_sleutels.size(); ++i)
+        entry.dagen[i] = zoek_waarde(dagen_sleutels[i], record);
     entry.hnr = hoofdstelnummer(n, hnr, entry.co, schedule.hoofdstelnummerautomatisch);
     entry.naam_zonder_ster = removed(entry.na, "*");
     entry.geslacht = vertaal(geslacht_woord(entry.di_gs));

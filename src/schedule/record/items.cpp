@@ -8,14 +8,16 @@ namespace tavelo {
 
 namespace {
 
-// `sleutel_van(item) == sleutel` for a trimmed item, without making a text of every key: folding keeps the length of a
-// key in plain letters, and the first letter already sends most items away.
+// The first letter sends most items away. Folding keeps that of a key in plain letters.
+inline bool begint_anders(std::string_view item, std::string_view sleutel) {
+    if (item.empty() || sleutel.empty()) return false;
+    const char eerste = item.front();
+    return (eerste >= 'A' && eerste <= 'Z' ? static_cast<char>(eerste + 'a' - 'A') : eerste) != sleutel.front();
+}
+
+// `sleutel_van(item) == sleutel` for a trimmed item, without making a text of every key.
 bool heeft_sleutel(std::string_view item, std::string_view sleutel) {
-    if (!item.empty() && !sleutel.empty()) {
-        const char eerste =
-            item.front() >= 'A' && item.front() <= 'Z' ? static_cast<char>(item.front() + 'a' - 'A') : item.front();
-        if (eerste != sleutel.front()) return false;
-    }
+    if (begint_anders(item, sleutel)) return false;
     const std::size_t colon = item.find(':');
     if (colon == std::string_view::npos) return sleutel.empty();
     const std::string_view gevonden = trimmed(item.substr(0, colon));
@@ -49,16 +51,17 @@ std::string_view zoek_waarde(std::string_view sleutel, std::string_view record) 
     }
 }
 
-Sleutels::Sleutels(std::span<const std::string_view> sleutels) : sleutels_(sleutels) {
+Sleutels::Sleutels(std::span<const std::string_view> sleutels) {
     for (std::uint32_t nummer = 0; nummer < sleutels.size(); ++nummer) {
-        if (sleutels[nummer].empty() || sleutels[nummer].find_first_of(":\t") != std::string_view::npos) continue;
-        const std::string item = std::string(sleutels[nummer]) + ":";
-        const std::uint64_t begin = eerste_acht(item);
-        const std::uint64_t masker = item.size() >= sizeof begin ? ~0ULL : (1ULL << 8 * item.size()) - 1;
+        const std::string_view sleutel = sleutels[nummer];
+        if (sleutel.empty() || sleutel.size() > 7 || sleutel.find_first_of(":\t") != std::string_view::npos) continue;
+        const std::string item = std::string(sleutel) + ":";
+        const std::uint64_t begin = eerste_acht(item.data(), item.data() + item.size());
+        const std::uint64_t masker = ~std::uint64_t{0} >> (64 - 8 * item.size());
         std::size_t vak = eerste_vak(begin);
         while (vakken_[vak].masker != 0)
             vak = volgend_vak(vak);
-        vakken_[vak] = {masker, begin, nummer, static_cast<std::uint32_t>(sleutels[nummer].size())};
+        vakken_[vak] = {masker, begin, nummer, static_cast<std::uint32_t>(sleutel.size())};
     }
 }
 
@@ -105,6 +108,7 @@ bool heeft_waarde_al(std::string_view sleutel, std::string_view record, std::str
     Parts items(record, '\t');
     while (const std::optional<std::string_view> item = items.next()) {
         const bool is_getrimd = item->empty() || (item->front() != ' ' && item->back() != ' ');
+        if (is_getrimd && begint_anders(*item, sleutel)) continue;
         if (heeft_sleutel(is_getrimd ? *item : trimmed(*item), sleutel)) {
             if (!is_item_van(*item, sleutel) || item->substr(sleutel.size() + 1) != waarde) return false;
             gevonden = true;

@@ -28,7 +28,7 @@ namespace tavelo {
 // The value of the first item whose key is exactly `sleutel`, up to the next tab, not trimmed; "" when there is none.
 [[nodiscard]] std::string_view zoek_waarde(std::string_view sleutel, std::string_view record);
 
-// A list of keys, ready to find all of them in one pass over a record. They are kept as views. A key that is empty, or
+// A list of keys, ready to find all of them in one pass over a record. A key that is empty, longer than seven bytes, or
 // holds a ":" or a tab, is never found.
 class Sleutels {
   public:
@@ -43,7 +43,7 @@ class Sleutels {
     void doorloop(std::string_view record, Bekend bekend, Onbekend onbekend) const;
 
   private:
-    // Up to eight bytes of an item, its key and the ":", are compared at once; the first two say where to look.
+    // A key and its ":" are compared at once with the first eight bytes of an item; two letters say where to look.
     struct Vak {
         std::uint64_t masker = 0; // of the bytes to compare; 0 is a free place
         std::uint64_t begin = 0;  // what they are
@@ -52,11 +52,10 @@ class Sleutels {
     };
     static constexpr unsigned bits_van_vak = 9; // many more places than keys: most other items meet a free one
     static constexpr std::size_t aantal_vakken = std::size_t{1} << bits_van_vak;
-    [[nodiscard]] static std::uint64_t eerste_acht(std::string_view tekst);
+    [[nodiscard]] static std::uint64_t eerste_acht(const char* van, const char* tot); // zeros behind the end
     [[nodiscard]] static std::size_t eerste_vak(std::uint64_t begin);
     [[nodiscard]] static std::size_t volgend_vak(std::size_t vak) { return (vak + 1) % aantal_vakken; }
 
-    std::span<const std::string_view> sleutels_;
     std::vector<Vak> vakken_ = std::vector<Vak>(aantal_vakken);
 };
 
@@ -79,14 +78,14 @@ class Sleutels {
 enum class Discipline : std::uint8_t { geen, dressuur, springen, mennen_dressuur, mennen_vaardigheid };
 [[nodiscard]] Discipline discipline_van(std::int16_t ringtype);
 
-// Zeros stand for what lies behind the end of a shorter text.
-inline std::uint64_t Sleutels::eerste_acht(std::string_view tekst) {
+inline std::uint64_t Sleutels::eerste_acht(const char* van, const char* tot) {
     static_assert(std::endian::native == std::endian::little, "the first letter is the lowest byte");
     std::uint64_t bytes = 0;
-    if (tekst.size() >= sizeof bytes)
-        std::memcpy(&bytes, tekst.data(), sizeof bytes);
-    else if (!tekst.empty())
-        std::memcpy(&bytes, tekst.data(), tekst.size());
+    if (tot - van >= 8) [[likely]]
+        std::memcpy(&bytes, van, sizeof bytes);
+    else
+        for (int i = 0; i < tot - van; ++i)
+            bytes |= std::uint64_t{static_cast<unsigned char>(van[i])} << 8 * i;
     return bytes;
 }
 
@@ -101,12 +100,11 @@ void Sleutels::doorloop(std::string_view record, Bekend bekend, Onbekend onbeken
     const char* const einde = record.data() + record.size();
     const char* van = record.data();
     const auto neem_tot = [&](const char* tot) __attribute__((always_inline)) {
-        const std::uint64_t begin = eerste_acht({van, einde});
+        const std::uint64_t begin = eerste_acht(van, einde);
         const std::string_view item(std::exchange(van, tot + 1), tot);
         for (std::size_t vak = eerste_vak(begin); vakken[vak].masker != 0; vak = volgend_vak(vak)) {
             const Vak& hier = vakken[vak];
             if ((begin & hier.masker) != hier.begin) continue;
-            if (hier.lengte >= sizeof begin && !is_item_van(item, sleutels_[hier.nummer])) continue;
             return bekend(hier.nummer, item.substr(hier.lengte + 1));
         }
         onbekend(item);

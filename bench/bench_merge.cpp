@@ -40,9 +40,9 @@ void lees(benchmark::State& state, const Versies& versies) {
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
-    benchmark::RegisterBenchmark("herlees_4000", herlees, versies_4000)->Repetitions(7)->Unit(benchmark::kMicrosecond);
-    benchmark::RegisterBenchmark("herlees_1000", herlees, versies_1000)->Repetitions(7)->Unit(benchmark::kMicrosecond);
-    benchmark::RegisterBenchmark("lees_4000", lees, versies_4000)->Repetitions(7)->Unit(benchmark::kMicrosecond);
+    meet_vaak("herlees_4000", herlees, versies_4000);
+    meet_vaak("herlees_1000", herlees, versies_1000);
+    meet_vaak("lees_4000", lees, versies_4000);
     Tijden tijden;
     benchmark::RunSpecifiedBenchmarks(&tijden);
     tijden.druk_verhouding("re-read and merge with 1 % changed / fresh read", "herlees_4000", "lees_4000", 2);

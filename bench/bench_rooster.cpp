@@ -47,9 +47,9 @@ void vloer(benchmark::State& state) {
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
-    benchmark::RegisterBenchmark("lees_4000", lees, rooster_4000)->Repetitions(7)->Unit(benchmark::kMicrosecond);
-    benchmark::RegisterBenchmark("lees_1000", lees, rooster_1000)->Repetitions(7)->Unit(benchmark::kMicrosecond);
-    benchmark::RegisterBenchmark("vloer_4000", vloer)->Repetitions(7)->Unit(benchmark::kMicrosecond);
+    meet_vaak("lees_4000", lees, rooster_4000);
+    meet_vaak("lees_1000", lees, rooster_1000);
+    meet_vaak("vloer_4000", vloer);
     Tijden tijden;
     benchmark::RunSpecifiedBenchmarks(&tijden);
     tijden.druk_verhouding("schedule read and shown in the grid / read and find line ends", "lees_4000", "vloer_4000",

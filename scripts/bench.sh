@@ -14,7 +14,9 @@ benches=("$@")
 [ "${#benches[@]}" -gt 0 ] || mapfile -t benches < <(basename --multiple --suffix=.cpp bench/bench_*.cpp)
 for bench in "${benches[@]}"; do
     echo "== $bench"
-    QT_QPA_PLATFORM=offscreen "build/release/bench/$bench" --benchmark_counters_tabular=true
+    # Taken turn by turn, so that a slow minute of the computer falls on both sides of a ratio.
+    QT_QPA_PLATFORM=offscreen "build/release/bench/$bench" --benchmark_counters_tabular=true \
+        --benchmark_enable_random_interleaving=true
 done
 
 if [ "$#" -eq 0 ]; then

@@ -70,8 +70,8 @@ struct EchtProgramma {
     [[nodiscard]] std::vector<std::string> nummers() const {
         std::vector<std::string> gevonden;
         for (int rij = 1; rij < programma.grdRooster.rows(); ++rij)
-            if (const std::string& nummer = programma.grdRooster.text(rij, kolom_inr); leading_number(nummer) != 0)
-                gevonden.push_back(nummer);
+            if (const std::string_view nummer = programma.grdRooster.text(rij, kolom_inr); leading_number(nummer) != 0)
+                gevonden.emplace_back(nummer);
         return gevonden;
     }
     // What the screen's next frame would ask for, without waiting for it.

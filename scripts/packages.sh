@@ -16,7 +16,7 @@ packages_demo=(
 
 # To test: everything above and these.
 packages_test=(
-    libgtest-dev clang-format-14
+    libgtest-dev libbenchmark-dev clang-format-14
 )
 
 # Only on request: benchmarks (scripts/bench.sh), fuzzing (scripts/fuzz.sh; <expected> needs clang 16), the example workbook.

@@ -12,9 +12,9 @@ step() { printf '\n== %s (%s s)\n' "$1" "$SECONDS"; }
 step "install"
 install_missing "${packages_run[@]}" "${packages_demo[@]}" "${packages_test[@]}"
 
-step "build: release, all targets"
-cmake --preset release -DTAVELO_TESTS=ON -DTAVELO_SANITIZED_BUILD="$PWD/build/asan"
-cmake --build build/release
+step "build: release, all targets, the benchmarks too though they do not run here"
+cmake --preset release -DTAVELO_TESTS=ON -DTAVELO_BENCH=ON -DTAVELO_SANITIZED_BUILD="$PWD/build/asan"
+cmake --build build/release --target all bench
 
 step "build: the rules with address and undefined-behaviour sanitizers"
 cmake --preset asan

@@ -44,17 +44,20 @@ class Vuller {
 
     void vul(std::string_view record) {
         Parts items(record, '\t');
-        while (const Item deel = items.next()) {
+        for (Item deel = volgend_item(items); deel;) {
             const std::string_view item = trimmed(*deel);
             if (is_item_van(item, "dnr")) { // nearly all of them
-                voeg_rij_toe(trimmed(item.substr(4)), items);
+                deel = voeg_rij_toe(trimmed(item.substr(4)), items);
                 continue;
             }
             const std::string sleutel = sleutel_van(item);
-            if (sleutel == "dnr")
-                voeg_rij_toe(waarde_van(item), items);
-            else if (const auto gezet = zet_rubriek_veld(rubriek_, sleutel, waarde_van(item)); !gezet)
+            if (sleutel == "dnr") {
+                deel = voeg_rij_toe(waarde_van(item), items);
+                continue;
+            }
+            if (const auto gezet = zet_rubriek_veld(rubriek_, sleutel, waarde_van(item)); !gezet)
                 meld(sleutel, gezet.error());
+            deel = volgend_item(items);
         }
         doel_.labels.lblRoosterOmschrijving =
             std::string(trimmed(rubriek_.rtype + " " + rubriek_.rring)) + ", " + rubriek_.roms;
@@ -68,12 +71,22 @@ class Vuller {
         doel_.logboek.skipped(0, sleutel, fout);
     }
 
-    // An entry is its "dnr" item and six more that go by their place; only a pause uses them.
-    void voeg_rij_toe(std::string_view inr, Parts& items) {
+    // The record of an entry that comes next is on its way while the row before it is made.
+    Item volgend_item(Parts& items) const {
+        const Item item = items.next();
+        if (item && is_item_van(*item, "dnr"))
+            if (const std::optional<std::int16_t> nummer = int16_of(item->substr(4)))
+                doel_.schedule.kondig_deelnemer_aan(*nummer);
+        return item;
+    }
+
+    // An entry is its "dnr" item and six more that go by their place; only a pause uses them. Gives the item behind it.
+    Item voeg_rij_toe(std::string_view inr, Parts& items) {
         const Item lengte = items.next();
         const Item tekst = items.next();
         for (int i = 2; i < 6; ++i)
             items.next();
+        const Item volgend = volgend_item(items);
 
         int n = 0;
         bool bestaat_niet = false;
@@ -94,6 +107,7 @@ class Vuller {
             voeg_combinatie_toe(inr, n, deelnemer);
         else
             voeg_pauze_toe(inr, lengte, tekst);
+        return volgend;
     }
 
     // Only an upper-case "P" carries a length, which is the result, and a text.

@@ -25,6 +25,8 @@ class Schedule {
 
     // The record of a combination, "" when there is none; a number outside 0 to 4000 has none.
     [[nodiscard]] const std::string& deelnemer(int nummer) const;
+    // Only a hint that this record is wanted soon: a start list goes through them in an order of its own.
+    void kondig_deelnemer_aan(int nummer) const;
     void zet_deelnemer(int nummer, std::string_view record);
     // The same record, to be written where it is kept; null when there is none.
     [[nodiscard]] std::string* deelnemer_plaats(int nummer);

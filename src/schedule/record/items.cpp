@@ -3,6 +3,7 @@
 #include "basis/text.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace tavelo {
 
@@ -52,6 +53,7 @@ std::string_view zoek_waarde(std::string_view sleutel, std::string_view record) 
 }
 
 Sleutels::Sleutels(std::span<const std::string_view> sleutels) {
+    assert(sleutels.size() < aantal_vakken);
     for (std::uint32_t nummer = 0; nummer < sleutels.size(); ++nummer) {
         const std::string_view sleutel = sleutels[nummer];
         if (sleutel.empty() || sleutel.size() > 7 || sleutel.find_first_of(":\t") != std::string_view::npos) continue;

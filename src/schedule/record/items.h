@@ -28,8 +28,8 @@ namespace tavelo {
 // The value of the first item whose key is exactly `sleutel`, up to the next tab, not trimmed; "" when there is none.
 [[nodiscard]] std::string_view zoek_waarde(std::string_view sleutel, std::string_view record);
 
-// A list of keys, ready to find all of them in one pass over a record. A key that is empty, longer than seven bytes, or
-// holds a ":" or a tab, is never found.
+// A list of keys, at most some hundreds, ready to find all of them in one pass over a record. A key that is empty,
+// longer than seven bytes, or holds a ":" or a tab, is never found.
 class Sleutels {
   public:
     explicit Sleutels(std::span<const std::string_view> sleutels);

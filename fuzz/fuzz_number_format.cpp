@@ -1,5 +1,5 @@
 // Eight bytes of value, then a format code: shown in both locales and both date systems, as a number and as a text.
-#include "excel/text/number_format.h"
+#include "workbook/text/number_format.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,5 +1,5 @@
 // Opens the bytes as an .xls workbook and reads its sheets; whatever they are, every index in the answer must hold.
-#include "excel/book/workbook.h"
+#include "workbook/workbook.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,10 +1,8 @@
 // Opens the bytes as an .xlsx workbook, locked or not, reads its sheets and renders every text; whatever the bytes are,
 // every index in the answer must hold. Bytes that are neither are taken for the parts themselves, separated by a zero
 // byte: a mutation inside a packed part would seldom come through its checksum.
-#include "excel/open_workbook.h"
-#include "excel/sheet_csv.h"
-#include "excel/text/locale.h"
-#include "excel/xlsx/xlsx_maker.h"
+#include "workbook/workbook.h"
+#include "workbook/xlsx/xlsx_maker.h"
 
 #include <algorithm>
 #include <array>

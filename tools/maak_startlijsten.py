@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Makes start lists in Excel workbooks. Needs python3-xlsxwriter and openssl.
 
-    tools/maak_startlijsten.py FOLDER             # the small ones for tests/data/excel
+    tools/maak_startlijsten.py FOLDER             # the small ones for tests/data/workbook
     tools/maak_startlijsten.py FOLDER --rijen N   # one start list of N rows and 12 columns, as .xlsx and as .xls
 """
 import base64

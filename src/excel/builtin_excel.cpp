@@ -1,9 +1,6 @@
 #include "excel/builtin_excel.h"
 
 #include "basis/number.h"
-#include "excel/displayed_text.h"
-#include "excel/open_workbook.h"
-#include "excel/sheet_box.h"
 
 #include <cstddef>
 #include <map>

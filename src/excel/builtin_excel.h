@@ -3,7 +3,7 @@
 #pragma once
 
 #include "excel/automation.h"
-#include "excel/text/locale.h"
+#include "workbook/workbook.h"
 
 #include <memory>
 

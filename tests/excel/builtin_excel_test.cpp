@@ -1,9 +1,9 @@
 #include "excel/builtin_excel.h"
 
 #include "excel/codeExcel.h"
-#include "excel/xlsx/xlsx_maker.h"
 #include "fakes/seams.h"
 #include "schedule/record/kolommen.h"
+#include "workbook/xlsx/xlsx_maker.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@
 namespace tavelo {
 namespace {
 
-const std::string startlijst = TAVELO_TEST_DATA "/excel/startlijst.xlsx";
+const std::string startlijst = TAVELO_TEST_DATA "/workbook/startlijst.xlsx";
 
 struct BuiltinExcel : testing::Test {
     std::unique_ptr<ExcelApplication> excel = builtin_excel(locale_named("nl-NL"));
@@ -47,7 +47,7 @@ TEST_F(BuiltinExcel, dezelfde_lijst_in_het_oude_formaat_geeft_dezelfde_teksten) 
     std::vector<std::vector<std::string>> rows;
     for (int i = 0; i < grid.rows(); ++i)
         rows.push_back(row(i));
-    EXPECT_TRUE(lees(TAVELO_TEST_DATA "/excel/startlijst.xls"));
+    EXPECT_TRUE(lees(TAVELO_TEST_DATA "/workbook/startlijst.xls"));
     ASSERT_EQ(grid.rows(), 4);
     for (int i = 0; i < grid.rows(); ++i)
         EXPECT_EQ(row(i), rows[static_cast<std::size_t>(i)]);
@@ -83,14 +83,14 @@ TEST_F(BuiltinExcel, een_grafiekblad_telt_mee_en_heeft_geen_cellen) {
 }
 
 TEST_F(BuiltinExcel, een_leeg_eerste_blad_geeft_geen_rijen_en_geen_kolommen) {
-    EXPECT_TRUE(lees(TAVELO_TEST_DATA "/excel/leeg.xlsx"));
+    EXPECT_TRUE(lees(TAVELO_TEST_DATA "/workbook/leeg.xlsx"));
     EXPECT_EQ(grid.rows(), 0);
     EXPECT_EQ(grid.columns(), 0);
     EXPECT_TRUE(messages.shown.empty());
 }
 
 TEST_F(BuiltinExcel, een_werkmap_die_met_een_grafiek_begint_gaat_open_zonder_rijen) {
-    EXPECT_FALSE(lees(TAVELO_TEST_DATA "/excel/grafiek_eerst.xlsx"));
+    EXPECT_FALSE(lees(TAVELO_TEST_DATA "/workbook/grafiek_eerst.xlsx"));
     EXPECT_EQ(grid.rows(), 0);
     EXPECT_TRUE(messages.shown.empty());
 }

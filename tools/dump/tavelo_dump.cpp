@@ -10,9 +10,8 @@
 
 #include "basis/number.h"
 #include "excel/builtin_excel.h"
-#include "excel/open_workbook.h"
-#include "excel/sheet_csv.h"
 #include "meter.h"
+#include "workbook/workbook.h"
 
 #include <charconv>
 #include <iostream>

@@ -1,0 +1,78 @@
+#include "workbook/workbook.h"
+
+#include "workbook/xlsx/locked_package.h"
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <system_error>
+#include <utility>
+
+namespace tavelo {
+
+namespace {
+
+std::expected<std::vector<std::byte>, OpenFailure> read_whole_file(std::string_view file) {
+    const std::filesystem::path path(std::u8string(file.begin(), file.end()));
+    std::error_code error;
+    const auto kind = std::filesystem::status(path, error).type();
+    if (kind == std::filesystem::file_type::not_found) return std::unexpected(OpenFailure::not_found);
+    if (kind != std::filesystem::file_type::regular) return std::unexpected(OpenFailure::unreadable);
+
+    if (std::filesystem::file_size(path, error) > largest_workbook_file && !error)
+        return std::unexpected(OpenFailure::too_large);
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream) return std::unexpected(OpenFailure::unreadable);
+    std::vector<std::byte> bytes;
+    constexpr std::size_t step = 1024 * 1024;
+    while (stream) {
+        if (bytes.size() > largest_workbook_file) return std::unexpected(OpenFailure::too_large);
+        const std::size_t known = bytes.size();
+        bytes.resize(known + step);
+        stream.read(reinterpret_cast<char*>(bytes.data() + known), static_cast<std::streamsize>(step));
+        bytes.resize(known + static_cast<std::size_t>(stream.gcount()));
+    }
+    if (stream.bad()) return std::unexpected(OpenFailure::unreadable);
+    return bytes;
+}
+
+bool begins_as_zip(const std::vector<std::byte>& bytes) {
+    return bytes.size() >= 2 && bytes[0] == std::byte{'P'} && bytes[1] == std::byte{'K'};
+}
+
+} // namespace
+
+std::expected<std::unique_ptr<Workbook>, OpenFailure> open_workbook(std::string_view file) {
+    auto bytes = read_whole_file(file);
+    if (!bytes) return std::unexpected(bytes.error());
+    return open_workbook(std::move(*bytes));
+}
+
+std::expected<std::unique_ptr<Workbook>, OpenFailure> open_workbook(std::vector<std::byte> bytes) {
+    if (bytes.empty()) return std::unexpected(OpenFailure::damaged);
+    if (begins_as_zip(bytes)) return open_xlsx(std::move(bytes));
+    auto package = unlocked_package(bytes);
+    if (package) return open_xlsx(std::move(*package));
+    if (package.error() != OpenFailure::not_a_workbook) return std::unexpected(package.error());
+    return open_xls(std::move(bytes));
+}
+
+std::string_view sentence_of(OpenFailure failure) {
+    switch (failure) {
+    case OpenFailure::not_found:
+        return "Het bestand is niet gevonden.";
+    case OpenFailure::unreadable:
+        return "Het bestand kan niet worden gelezen; misschien houdt een ander programma het vast.";
+    case OpenFailure::not_a_workbook:
+        return "Het bestand is geen Excel-werkmap.";
+    case OpenFailure::damaged:
+        return "De werkmap is beschadigd of nog niet helemaal opgeslagen.";
+    case OpenFailure::password:
+        return "De werkmap is met een wachtwoord beveiligd.";
+    case OpenFailure::too_large:
+        return "De werkmap is te groot om te lezen.";
+    }
+    return "De werkmap kan niet worden geopend.";
+}
+
+} // namespace tavelo

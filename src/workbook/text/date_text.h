@@ -1,0 +1,17 @@
+// Sections of a number format that show dates and times.
+#pragma once
+
+#include "workbook/text/format_code.h"
+#include "workbook/text/locale.h"
+#include "workbook/text/number_format.h"
+
+#include <optional>
+#include <string>
+
+namespace tavelo {
+
+// `serial` is finite and not negative: days since the start of the date system. nullopt beyond the year 9999.
+[[nodiscard]] std::optional<std::string> date_text(const FormatSection& section, double serial, DateSystem dates,
+                                                   const Locale& locale);
+
+} // namespace tavelo

@@ -1,0 +1,152 @@
+#include "workbook/xls/biff_stream.h"
+
+#include "workbook/xls/code_page.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace tavelo {
+
+namespace {
+
+// Bits of the flags in front of the characters of a BIFF8 string.
+constexpr unsigned wide_flag = 0x01;
+constexpr unsigned phonetic_flag = 0x04;
+constexpr unsigned rich_flag = 0x08;
+constexpr std::size_t formatting_run_size = 4;
+
+} // namespace
+
+std::uint8_t byte_at(ByteSpan bytes, std::size_t place) {
+    return place < bytes.size() ? std::to_integer<std::uint8_t>(bytes[place]) : std::uint8_t{0};
+}
+
+std::uint16_t word_at(ByteSpan bytes, std::size_t place) {
+    return static_cast<std::uint16_t>(byte_at(bytes, place) | byte_at(bytes, place + 1) << 8);
+}
+
+std::uint32_t long_at(ByteSpan bytes, std::size_t place) {
+    return word_at(bytes, place) | static_cast<std::uint32_t>(word_at(bytes, place + 2)) << 16;
+}
+
+double double_at(ByteSpan bytes, std::size_t place) {
+    return std::bit_cast<double>(long_at(bytes, place) | static_cast<std::uint64_t>(long_at(bytes, place + 4)) << 32);
+}
+
+ByteSpan part_of(ByteSpan bytes, std::size_t place, std::size_t count) {
+    const ByteSpan rest = bytes.subspan(std::min(place, bytes.size()));
+    return rest.first(std::min(count, rest.size()));
+}
+
+Biff version_of_bof(const BiffRecord& bof) {
+    constexpr unsigned biff8_number = 0x0600;
+    switch (bof.type) {
+    case biff::bof_2:
+        return Biff::biff2;
+    case biff::bof_3:
+        return Biff::biff3;
+    case biff::bof_4:
+        return Biff::biff4;
+    default:
+        return word_at(bof.data, 0) == biff8_number ? Biff::biff8 : Biff::biff5;
+    }
+}
+
+SubstreamKind kind_of_bof(const BiffRecord& bof) { return static_cast<SubstreamKind>(word_at(bof.data, 2)); }
+
+std::optional<BiffRecord> BiffCursor::next() {
+    constexpr std::size_t header_size = 4;
+    if (place_ > stream_.size() || stream_.size() - place_ < header_size) return std::nullopt;
+    const BiffRecord record{.type = word_at(stream_, place_),
+                            .data = part_of(stream_, place_ + header_size, word_at(stream_, place_ + 2))};
+    place_ += header_size + record.data.size();
+    return record;
+}
+
+std::optional<BiffRecord> BiffCursor::next_if(std::uint16_t type) {
+    const std::size_t before = place_;
+    const auto record = next();
+    if (record && record->type == type) return record;
+    place_ = before;
+    return std::nullopt;
+}
+
+bool BiffText::next_part() {
+    while (data_.empty()) {
+        const auto more = cursor_.next_if(biff::continued);
+        if (!more) return false;
+        data_ = more->data;
+    }
+    return true;
+}
+
+bool BiffText::at_end() { return !next_part(); }
+
+std::uint8_t BiffText::byte() {
+    if (!next_part()) return 0;
+    const std::uint8_t value = byte_at(data_, 0);
+    data_ = data_.subspan(1);
+    return value;
+}
+
+std::uint16_t BiffText::word() {
+    const unsigned low = byte();
+    const unsigned high = byte();
+    return static_cast<std::uint16_t>(high << 8 | low);
+}
+
+std::uint32_t BiffText::long_word() {
+    const std::uint32_t low = word();
+    const std::uint32_t high = word();
+    return high << 16 | low;
+}
+
+void BiffText::skip(std::size_t count) {
+    while (count > 0 && next_part()) {
+        const std::size_t here = std::min(count, data_.size());
+        data_ = data_.subspan(here);
+        count -= here;
+    }
+}
+
+std::string BiffText::string(std::size_t length, TextEncoding encoding) {
+    return encoding.version == Biff::biff8 ? unicode_string(length) : byte_string(length, encoding.code_page);
+}
+
+std::string BiffText::unicode_string(std::size_t length) {
+    unsigned flags = byte();
+    const std::size_t runs = (flags & rich_flag) != 0 ? word() : 0;
+    const std::size_t phonetic = (flags & phonetic_flag) != 0 ? long_word() : 0;
+
+    std::u16string text;
+    while (length > 0) {
+        if (data_.empty()) {
+            if (!next_part()) break;
+            flags = byte(); // characters that go on in a CONTINUE record repeat the flags: the width may change there
+            continue;
+        }
+        const std::size_t unit_size = (flags & wide_flag) != 0 ? 2 : 1;
+        const std::size_t here = std::min(length, (data_.size() + unit_size - 1) / unit_size);
+        for (std::size_t i = 0; i < here; ++i)
+            text.push_back(unit_size == 2 ? word_at(data_, 2 * i) : character_of_byte(byte_at(data_, i)));
+        data_ = part_of(data_, here * unit_size);
+        length -= here;
+    }
+    skip(runs * formatting_run_size);
+    skip(phonetic);
+    return utf8_of(text);
+}
+
+std::string BiffText::byte_string(std::size_t length, unsigned code_page) {
+    std::string text;
+    while (length > 0 && next_part()) {
+        const ByteSpan here = part_of(data_, 0, length);
+        for (const std::byte value : here)
+            text.push_back(static_cast<char>(value));
+        data_ = data_.subspan(here.size());
+        length -= here.size();
+    }
+    return utf8_of(text, code_page);
+}
+
+} // namespace tavelo

@@ -1,0 +1,419 @@
+#include "workbook/xls/sheet_cells.h"
+
+#include "workbook/book/column_width.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <limits>
+#include <optional>
+
+namespace tavelo {
+
+namespace {
+
+constexpr std::size_t most_columns = 256;
+
+double rk_value(std::uint32_t rk) {
+    constexpr std::uint32_t hundredths = 1;
+    constexpr std::uint32_t integer = 2;
+    const double value = (rk & integer) != 0 ? static_cast<double>(std::bit_cast<std::int32_t>(rk) >> 2)
+                                             : std::bit_cast<double>(static_cast<std::uint64_t>(rk & ~3U) << 32);
+    return (rk & hundredths) != 0 ? value / 100 : value;
+}
+
+class Interval {
+  public:
+    void include(std::uint32_t first, std::uint32_t last) {
+        first_ = std::min(first_, first);
+        end_ = std::max(end_, last + 1);
+    }
+    [[nodiscard]] std::uint32_t first() const { return first_ < end_ ? first_ : 0; }
+    [[nodiscard]] std::uint32_t size() const { return first_ < end_ ? end_ - first_ : 0; }
+
+  private:
+    std::uint32_t first_ = std::numeric_limits<std::uint32_t>::max();
+    std::uint32_t end_ = 0;
+};
+
+// The used range, found as Excel finds it: cells, and the rows and columns that differ from the usual. Without cells
+// there is none.
+class Used {
+  public:
+    void include_cell(std::uint32_t row, std::uint32_t column) {
+        has_cells_ = true;
+        rows_.include(row, row);
+        columns_.include(column, column);
+    }
+
+    void include_row(const BiffRecord& record) {
+        constexpr unsigned own_look = 0xE0; // hidden, a height of its own, a format of its own
+        const unsigned row = word_at(record.data, 0);
+        const unsigned first = word_at(record.data, 2);
+        const unsigned end = word_at(record.data, 4);
+        const bool has_columns = first < end && end <= most_columns;
+        if (has_columns) columns_.include(first, end - 1);
+        if (has_columns || (word_at(record.data, 12) & own_look) != 0) rows_.include(row, row);
+    }
+
+    void include_columns(const BiffRecord& record) {
+        const unsigned first = word_at(record.data, 0);
+        const unsigned last = word_at(record.data, 2);
+        const ColumnRun run{
+            .first = first, .last = last, .format = word_at(record.data, 6), .hidden = is_hidden(record)};
+        if (last + 1 >= most_columns)
+            format_of_the_rest_ = run.format;
+        else if (first <= last)
+            runs_.push_back(run);
+    }
+
+    static bool is_hidden(const BiffRecord& colinfo) { return (word_at(colinfo.data, 8) & 1) != 0; }
+
+    // To be asked once everything is included.
+    [[nodiscard]] UsedRange range() {
+        if (!has_cells_) return {};
+        for (const ColumnRun& run : runs_) {
+            if (run.hidden || run.format != format_of_the_rest_) columns_.include(run.first, run.last);
+        }
+        return {.first_row = rows_.first(),
+                .first_column = columns_.first(),
+                .rows = rows_.size(),
+                .columns = columns_.size()};
+    }
+
+  private:
+    struct ColumnRun {
+        unsigned first, last;
+        unsigned format;
+        bool hidden;
+    };
+    static constexpr unsigned usual_format = 15; // the first XF record that is no style
+
+    bool has_cells_ = false;
+    Interval rows_;
+    Interval columns_;
+    std::vector<ColumnRun> runs_;
+    unsigned format_of_the_rest_ = usual_format; // of the columns up to the right edge of the sheet
+};
+
+class ColumnWidths {
+  public:
+    explicit ColumnWidths(int digit_pixels) : digit_pixels_(digit_pixels) {}
+
+    void set(std::size_t first, std::size_t last, double points) {
+        for (std::size_t column = first; column <= last && column < most_columns; ++column)
+            widths_[column] = points;
+    }
+    void set_stored(std::size_t first, std::size_t last, unsigned width) { set(first, last, points_of(width)); }
+    void set_default(unsigned width) { standard_ = points_of(width); }
+    void set_default_characters(unsigned characters) {
+        by_characters_ = default_column_points(static_cast<int>(characters), digit_pixels_);
+    }
+
+    void give_to(Sheet& sheet) const {
+        sheet.default_column_width = standard_ ? *standard_ : by_characters_;
+        const auto last =
+            std::find_if(widths_.rbegin(), widths_.rend(), [](const auto& width) { return width.has_value(); });
+        for (auto width = widths_.begin(); width != last.base(); ++width)
+            sheet.column_widths.push_back(width->value_or(sheet.default_column_width));
+    }
+
+  private:
+    // Widths are stored in 1/256 of a character.
+    [[nodiscard]] double points_of(unsigned width) const { return column_points(width / 256.0, digit_pixels_); }
+
+    static constexpr int usual_characters = 8;
+
+    int digit_pixels_;
+    std::array<std::optional<double>, most_columns> widths_;
+    std::optional<double> standard_;
+    double by_characters_ = default_column_points(usual_characters, digit_pixels_);
+};
+
+class SheetReader {
+  public:
+    SheetReader(BiffCursor cursor, const SheetContext& context, std::vector<std::string>& texts)
+        : cursor_(cursor), context_(context), texts_(texts), widths_(context.digit_pixels) {}
+
+    std::expected<Sheet, OpenFailure> read() {
+        std::size_t depth = 1;
+        while (const auto record = cursor_.next()) {
+            if (is_bof(record->type)) {
+                ++depth;
+            } else if (record->type == biff::eof) {
+                if (--depth == 0) break;
+            } else if (depth == 1) {
+                // One record has a row's cells at most.
+                if (sheet_.cells.size() > most_cells - most_columns) return std::unexpected(OpenFailure::too_large);
+                take(*record);
+            }
+        }
+        finish();
+        return std::move(sheet_);
+    }
+
+  private:
+    void take(const BiffRecord& record);
+    void take_geometry(const BiffRecord& record);
+    void take_number(const BiffRecord& record, double value);
+    void take_label(const BiffRecord& record);
+    void take_shared_string(const BiffRecord& record);
+    void take_boolean_or_error(const BiffRecord& record);
+    void take_blanks(const BiffRecord& record);
+    void take_numbers(const BiffRecord& record);
+    void take_formula(const BiffRecord& record);
+    void take_formula_string(const BiffRecord& record);
+    void finish();
+
+    // BIFF2 cells have three bytes of attributes where later ones have the number of an XF record.
+    [[nodiscard]] bool is_old(const BiffRecord& record) const {
+        return record.type < biff::formula ||
+               (record.type == biff::formula && context_.encoding.version == Biff::biff2);
+    }
+    [[nodiscard]] std::size_t head_size(const BiffRecord& record) const { return is_old(record) ? 7 : 6; }
+    [[nodiscard]] std::optional<Cell> cell_of(const BiffRecord& record);
+    [[nodiscard]] std::uint32_t format_of(std::size_t style) const {
+        return style < context_.cell_formats.size() ? context_.cell_formats[style] : 0;
+    }
+    void add(const Cell& cell);
+    [[nodiscard]] std::uint32_t add_text(std::string text);
+
+    BiffCursor cursor_;
+    const SheetContext& context_;
+    std::vector<std::string>& texts_;
+    ColumnWidths widths_;
+    Sheet sheet_;
+    Used used_;
+    bool in_order_ = true;
+    std::optional<std::size_t> awaits_string_; // the formula cell whose STRING record is still to come
+    std::optional<std::uint32_t> empty_text_;
+};
+
+bool comes_before(const Cell& left, const Cell& right) {
+    return left.row != right.row ? left.row < right.row : left.column < right.column;
+}
+
+std::optional<Cell> SheetReader::cell_of(const BiffRecord& record) {
+    Cell cell;
+    if (record.data.size() < head_size(record) || word_at(record.data, 2) >= most_columns) return std::nullopt;
+    cell.row = word_at(record.data, 0);
+    cell.column = word_at(record.data, 2);
+    cell.format = format_of(is_old(record) ? byte_at(record.data, 5) & 0x3FU : word_at(record.data, 4));
+    return cell;
+}
+
+// Blank cells show nothing, so they only count for the used range, unless they may take the place of an earlier cell.
+void SheetReader::add(const Cell& cell) {
+    used_.include_cell(cell.row, cell.column);
+    awaits_string_.reset();
+    const bool next = sheet_.cells.empty() || comes_before(sheet_.cells.back(), cell);
+    if (next && in_order_ && cell.kind == CellKind::blank) return;
+    in_order_ = in_order_ && next;
+    sheet_.cells.push_back(cell);
+}
+
+std::uint32_t SheetReader::add_text(std::string text) {
+    if (text.empty() && empty_text_) return *empty_text_;
+    const auto number = static_cast<std::uint32_t>(texts_.size());
+    if (text.empty()) empty_text_ = number;
+    texts_.push_back(std::move(text));
+    return number;
+}
+
+void SheetReader::take(const BiffRecord& record) {
+    const std::size_t body = head_size(record);
+    switch (record.type) {
+    case biff::blank_2:
+    case biff::blank:
+        if (const auto cell = cell_of(record)) add(*cell);
+        break;
+    case biff::integer_2:
+        take_number(record, word_at(record.data, body));
+        break;
+    case biff::number_2:
+    case biff::number:
+        take_number(record, double_at(record.data, body));
+        break;
+    case biff::rk:
+        take_number(record, rk_value(long_at(record.data, body)));
+        break;
+    case biff::label_2:
+    case biff::label:
+    case biff::rstring:
+        take_label(record);
+        break;
+    case biff::labelsst:
+        take_shared_string(record);
+        break;
+    case biff::boolerr_2:
+    case biff::boolerr:
+        take_boolean_or_error(record);
+        break;
+    case biff::mulrk:
+        take_numbers(record);
+        break;
+    case biff::mulblank:
+        take_blanks(record);
+        break;
+    case biff::formula:
+    case biff::formula_3:
+    case biff::formula_4:
+        take_formula(record);
+        break;
+    case biff::string_2:
+    case biff::string:
+        take_formula_string(record);
+        break;
+    default:
+        take_geometry(record);
+    }
+}
+
+void SheetReader::take_geometry(const BiffRecord& record) {
+    switch (record.type) {
+    case biff::colinfo: {
+        const unsigned width = Used::is_hidden(record) ? 0U : word_at(record.data, 4);
+        widths_.set_stored(word_at(record.data, 0), word_at(record.data, 2), width);
+        used_.include_columns(record);
+        break;
+    }
+    case biff::row:
+        used_.include_row(record);
+        break;
+    case biff::colwidth_2:
+        widths_.set_stored(byte_at(record.data, 0), byte_at(record.data, 1), word_at(record.data, 2));
+        break;
+    case biff::standardwidth:
+        widths_.set_default(word_at(record.data, 0));
+        break;
+    case biff::defcolwidth:
+        widths_.set_default_characters(word_at(record.data, 0));
+        break;
+    default:
+        break;
+    }
+}
+
+void SheetReader::take_number(const BiffRecord& record, double value) {
+    if (auto cell = cell_of(record)) {
+        cell->kind = CellKind::number;
+        cell->number = value;
+        add(*cell);
+    }
+}
+
+void SheetReader::take_label(const BiffRecord& record) {
+    auto cell = cell_of(record);
+    if (!cell) return;
+    BiffText text(cursor_, record.data);
+    text.skip(head_size(record));
+    const std::size_t length = record.type == biff::label_2 ? text.byte() : text.word();
+    cell->kind = CellKind::text;
+    cell->text = add_text(text.string(length, context_.encoding));
+    add(*cell);
+}
+
+void SheetReader::take_shared_string(const BiffRecord& record) {
+    auto cell = cell_of(record);
+    if (!cell) return;
+    const std::uint32_t number = long_at(record.data, head_size(record));
+    if (number < context_.shared_strings) { // a number beyond the table leaves the cell blank
+        cell->kind = CellKind::text;
+        cell->text = number;
+    }
+    add(*cell);
+}
+
+void SheetReader::take_boolean_or_error(const BiffRecord& record) {
+    auto cell = cell_of(record);
+    if (!cell) return;
+    const std::size_t body = head_size(record);
+    cell->kind = byte_at(record.data, body + 1) == 0 ? CellKind::boolean : CellKind::error;
+    cell->number = byte_at(record.data, body);
+    add(*cell);
+}
+
+void SheetReader::take_blanks(const BiffRecord& record) {
+    constexpr std::size_t head = 4;
+    constexpr std::size_t tail = 2;
+    auto cell = cell_of(record);
+    for (std::size_t at = head; cell && at + 2 + tail <= record.data.size() && cell->column < most_columns; at += 2) {
+        add(*cell);
+        ++cell->column;
+    }
+}
+
+void SheetReader::take_numbers(const BiffRecord& record) {
+    constexpr std::size_t head = 4;
+    constexpr std::size_t item = 6;
+    constexpr std::size_t tail = 2;
+    auto cell = cell_of(record);
+    for (std::size_t at = head; cell && at + item + tail <= record.data.size() && cell->column < most_columns;
+         at += item) {
+        cell->kind = CellKind::number;
+        cell->format = format_of(word_at(record.data, at));
+        cell->number = rk_value(long_at(record.data, at + 2));
+        add(*cell);
+        ++cell->column;
+    }
+}
+
+// The cached result is a number, unless its last two bytes are FF FF: then the first byte tells the kind.
+void SheetReader::take_formula(const BiffRecord& record) {
+    auto cell = cell_of(record);
+    if (!cell) return;
+    const std::size_t body = head_size(record);
+    if (word_at(record.data, body + 6) != 0xFFFF) {
+        take_number(record, double_at(record.data, body));
+        return;
+    }
+    enum class Result : std::uint8_t { string = 0, boolean = 1, error = 2, empty_string = 3 };
+    const auto result = static_cast<Result>(byte_at(record.data, body));
+    cell->number = byte_at(record.data, body + 2);
+    if (result == Result::boolean) {
+        cell->kind = CellKind::boolean;
+    } else if (result == Result::error) {
+        cell->kind = CellKind::error;
+    } else {
+        cell->kind = CellKind::text;
+        cell->number = 0;
+        cell->text = add_text({});
+    }
+    add(*cell);
+    if (result == Result::string) awaits_string_ = sheet_.cells.size() - 1;
+}
+
+// Records of shared formulas, arrays and tables may stand between a formula and its string.
+void SheetReader::take_formula_string(const BiffRecord& record) {
+    if (!awaits_string_) return;
+    BiffText text(cursor_, record.data);
+    const std::size_t length = record.type == biff::string_2 ? text.byte() : text.word();
+    sheet_.cells[*awaits_string_].text = add_text(text.string(length, context_.encoding));
+    awaits_string_.reset();
+}
+
+void SheetReader::finish() {
+    std::vector<Cell>& cells = sheet_.cells;
+    if (!in_order_) {
+        // Of two records for one place the last one counts.
+        std::ranges::stable_sort(cells, comes_before);
+        const auto same_place = [](const Cell& left, const Cell& right) {
+            return left.row == right.row && left.column == right.column;
+        };
+        std::ranges::reverse(cells);
+        const auto doubles = std::ranges::unique(cells, same_place);
+        cells.erase(doubles.begin(), doubles.end());
+        std::ranges::reverse(cells);
+    }
+    sheet_.used = used_.range();
+    widths_.give_to(sheet_);
+}
+
+} // namespace
+
+std::expected<Sheet, OpenFailure> read_sheet_cells(BiffCursor cursor, const SheetContext& context,
+                                                   std::vector<std::string>& texts) {
+    return SheetReader(cursor, context, texts).read();
+}
+
+} // namespace tavelo

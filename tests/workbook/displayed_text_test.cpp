@@ -1,0 +1,79 @@
+#include "workbook/displayed_text.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace tavelo {
+namespace {
+
+// A workbook of nothing but texts and formats.
+struct Stored : Workbook {
+    std::vector<std::string> codes{"", "0.00", "_(@_)", "d-m-yyyy"};
+    std::vector<std::string> strings{"Zoë"};
+    bool from_1904 = false;
+
+    std::span<const SheetInfo> sheets() const override { return {}; }
+    std::expected<Sheet, OpenFailure> read_sheet(std::size_t) override { return Sheet(); }
+    std::span<const std::string> formats() const override { return codes; }
+    std::span<const std::string> texts() const override { return strings; }
+    bool dates_from_1904() const override { return from_1904; }
+};
+
+Cell cell(CellKind kind, double number, std::uint32_t format = 0) {
+    Cell made;
+    made.kind = kind;
+    made.number = number;
+    made.format = format;
+    return made;
+}
+
+const Locale& dutch = locale_named("nl-NL");
+const Locale& american = locale_named("en-US");
+
+TEST(GetoondeTekst, een_lege_cel_toont_niets) {
+    const Stored book;
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::blank, 0, 2)), "");
+}
+
+TEST(GetoondeTekst, een_getal_volgt_zijn_opmaak_en_het_land) {
+    const Stored book;
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 1234.5, 1)), "1234,50");
+    EXPECT_EQ(DisplayedTexts(book, american).of(cell(CellKind::number, 1234.5, 1)), "1234.50");
+}
+
+TEST(GetoondeTekst, een_datum_volgt_de_telling_van_de_werkmap) {
+    Stored book;
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 1, 3)), "1-1-1900");
+    book.from_1904 = true;
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 1, 3)), "2-1-1904");
+}
+
+TEST(GetoondeTekst, teksten_en_booleans_gaan_door_het_tekstdeel_van_de_opmaak) {
+    const Stored book;
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::text, 0)), "Zoë");
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::text, 0, 2)), " Zoë ");
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::boolean, 1, 2)), " WAAR ");
+    EXPECT_EQ(DisplayedTexts(book, american).of(cell(CellKind::boolean, 0)), "FALSE");
+}
+
+TEST(GetoondeTekst, fouten_nooit_en_elk_heeft_zijn_woord) {
+    const Stored book;
+    constexpr std::array codes{0x00, 0x07, 0x0F, 0x17, 0x1D, 0x24, 0x2A, 0x2B};
+    constexpr std::array<std::string_view, 8> words{"#NULL!", "#DIV/0!", "#VALUE!", "#REF!",
+                                                    "#NAME?", "#NUM!",   "#N/A",    "#GETTING_DATA"};
+    for (std::size_t i = 0; i < codes.size(); ++i)
+        EXPECT_EQ(DisplayedTexts(book, american).of(cell(CellKind::error, codes[i], 2)), words[i]);
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::error, 0x0F)), "#WAARDE!");
+}
+
+TEST(GetoondeTekst, een_tekst_of_opmaak_die_er_niet_is_schaadt_niet) {
+    const Stored book;
+    Cell text = cell(CellKind::text, 0);
+    text.text = 99;
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(text), "");
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 1.5, 99)), "1,5");
+}
+
+} // namespace
+} // namespace tavelo

@@ -1,0 +1,78 @@
+#include "workbook/workbook.h"
+#include "workbook/xlsx/xlsx_maker.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace tavelo {
+namespace {
+
+const test::XlsxMaker simple{.sheet_data = R"(<row r="1"><c r="A1" t="inlineStr"><is><t>Amber</t></is></c></row>)"};
+
+struct OpenWorkbook : testing::Test {
+    std::filesystem::path folder =
+        std::filesystem::temp_directory_path() /
+        ("tavelo_" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
+
+    OpenWorkbook() { std::filesystem::create_directories(folder); }
+    ~OpenWorkbook() override { std::filesystem::remove_all(folder); }
+
+    std::string write(const std::string& name, const std::vector<std::byte>& bytes) const {
+        const auto path = folder / std::filesystem::path(std::u8string(name.begin(), name.end()));
+        std::ofstream(path, std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        const auto text = path.u8string();
+        return {text.begin(), text.end()};
+    }
+    std::string write(const std::string& name, std::string_view text) const {
+        const auto* const begin = reinterpret_cast<const std::byte*>(text.data());
+        return write(name, std::vector<std::byte>(begin, begin + text.size()));
+    }
+};
+
+TEST_F(OpenWorkbook, de_inhoud_beslist_en_niet_de_extensie) {
+    const std::string file = write("zondag.xls", simple.bytes());
+    auto book = open_workbook(file);
+    ASSERT_TRUE(book.has_value());
+    EXPECT_EQ(blad_als_csv(**book, 1, locale_named("nl-NL")), "Amber\r\n");
+}
+
+TEST_F(OpenWorkbook, een_naam_met_accenten_gaat_open) {
+    EXPECT_TRUE(open_workbook(write("zoë café.xlsx", simple.bytes())).has_value());
+}
+
+TEST_F(OpenWorkbook, het_bestand_is_weer_vrij_zodra_het_gelezen_is) {
+    const std::string file = write("zondag.xlsx", simple.bytes());
+    auto book = open_workbook(file).value();
+    write("zondag.xlsx", "wordt net opgeslagen");
+    EXPECT_EQ(blad_als_csv(*book, 1, locale_named("nl-NL")), "Amber\r\n");
+    EXPECT_TRUE(std::filesystem::remove(file));
+}
+
+TEST_F(OpenWorkbook, elke_mislukking_heeft_haar_eigen_reden) {
+    EXPECT_EQ(open_workbook((folder / "weg.xlsx").string()).error(), OpenFailure::not_found);
+    EXPECT_EQ(open_workbook(std::string_view("")).error(), OpenFailure::not_found);
+    EXPECT_EQ(open_workbook(folder.string()).error(), OpenFailure::unreadable);
+    EXPECT_EQ(open_workbook(write("leeg.xlsx", "")).error(), OpenFailure::damaged);
+    EXPECT_EQ(open_workbook(write("lijst.xls", "<html><table></table></html>")).error(), OpenFailure::not_a_workbook);
+    EXPECT_EQ(open_workbook(write("lijst.xlsx", "nr;naam\r\n1;Amber\r\n")).error(), OpenFailure::not_a_workbook);
+
+    auto half = simple.bytes();
+    half.resize(half.size() - 30);
+    EXPECT_EQ(open_workbook(write("half.xlsx", half)).error(), OpenFailure::damaged);
+}
+
+TEST(OpenFailureZin, elke_reden_heeft_een_eigen_zin) {
+    EXPECT_EQ(sentence_of(OpenFailure::not_found), "Het bestand is niet gevonden.");
+    EXPECT_EQ(sentence_of(OpenFailure::unreadable),
+              "Het bestand kan niet worden gelezen; misschien houdt een ander programma het vast.");
+    EXPECT_EQ(sentence_of(OpenFailure::not_a_workbook), "Het bestand is geen Excel-werkmap.");
+    EXPECT_EQ(sentence_of(OpenFailure::damaged), "De werkmap is beschadigd of nog niet helemaal opgeslagen.");
+    EXPECT_EQ(sentence_of(OpenFailure::password), "De werkmap is met een wachtwoord beveiligd.");
+    EXPECT_EQ(sentence_of(OpenFailure::too_large), "De werkmap is te groot om te lezen.");
+}
+
+} // namespace
+} // namespace tavelo

@@ -1,0 +1,22 @@
+// Short forms for the tests of displayed texts.
+#pragma once
+
+#include "workbook/text/number_format.h"
+
+#include <string>
+#include <string_view>
+
+namespace tavelo {
+
+inline std::string shown(double value, std::string_view code, std::string_view language = "en-US",
+                         DateSystem dates = DateSystem::from_1900) {
+    return NumberFormat(code).show_number(value, dates, locale_named(language));
+}
+
+inline std::string shown_in_dutch(double value, std::string_view code) { return shown(value, code, "nl-NL"); }
+
+inline std::string shown_from_1904(double value, std::string_view code) {
+    return shown(value, code, "en-US", DateSystem::from_1904);
+}
+
+} // namespace tavelo

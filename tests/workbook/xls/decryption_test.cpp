@@ -1,0 +1,167 @@
+// Locked workbooks: those that Excel opens without asking are read, others ask for their password. The keys here were
+// computed apart from the program, with the password that Excel knows and the salt 00 01 .. 0F.
+#include "workbook/xls/digest.h"
+#include "xls_bytes.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace tavelo {
+
+using namespace testing_xls;
+using Shown = std::vector<std::string>;
+
+namespace {
+
+std::vector<std::byte> from_hex(std::string_view digits) {
+    const auto value = [](char digit) { return static_cast<unsigned>(digit <= '9' ? digit - '0' : digit - 'a' + 10); };
+    std::vector<std::byte> bytes;
+    for (std::size_t i = 0; i + 1 < digits.size(); i += 2)
+        bytes.push_back(static_cast<std::byte>(value(digits[i]) << 4 | value(digits[i + 1])));
+    return bytes;
+}
+
+std::string hex(ByteSpan bytes) {
+    std::string text;
+    for (const std::byte byte : bytes) {
+        text.push_back("0123456789abcdef"[std::to_integer<unsigned>(byte) >> 4]);
+        text.push_back("0123456789abcdef"[std::to_integer<unsigned>(byte) & 15]);
+    }
+    return text;
+}
+
+ByteSpan bytes_of(std::string_view text) { return std::as_bytes(std::span(text)); }
+
+Bytes hex_bytes(std::string_view digits) {
+    Bytes bytes;
+    for (const std::byte byte : from_hex(digits))
+        bytes.u8(std::to_integer<unsigned>(byte));
+    return bytes;
+}
+
+constexpr std::string_view salt = "000102030405060708090a0b0c0d0e0f";
+constexpr unsigned filepass = 0x002F;
+
+// Locks one byte: its value, its place in the stream, the length of its record's data.
+using Locking = std::function<unsigned(unsigned, std::size_t, std::size_t)>;
+
+// Locks the data of all records behind FILEPASS, but for BOF and the first four bytes of BOUNDSHEET.
+Bytes locked(Bytes stream, const Locking& lock) {
+    bool behind = false;
+    for (std::size_t at = 0; at + 4 <= stream.size();) {
+        const ByteSpan bytes = stream.bytes();
+        const unsigned type = word_at(bytes, at);
+        const std::size_t length = word_at(bytes, at + 2);
+        const std::size_t plain = type == 0x0809 ? length : type == 0x0085 ? 4 : 0;
+        for (std::size_t i = plain; behind && i < length; ++i)
+            stream.put_u8(at + 4 + i, lock(byte_at(stream.bytes(), at + 4 + i), at + 4 + i, length));
+        behind = behind || type == filepass;
+        at += 4 + length;
+    }
+    return stream;
+}
+
+Locking rc4_with(std::vector<std::string_view> keys) {
+    std::vector<std::byte> stream;
+    for (const std::string_view key : keys) {
+        Rc4 rc4(from_hex(key));
+        for (int i = 0; i < 1024; ++i)
+            stream.push_back(rc4.next());
+    }
+    return [stream](unsigned value, std::size_t place, std::size_t) {
+        return value ^ std::to_integer<unsigned>(stream.at(place));
+    };
+}
+
+unsigned by_xor(unsigned value, std::size_t place, std::size_t length) {
+    static const std::vector<std::byte> key = from_hex("3c5bd417f01f2813f04bb403c473a420");
+    return std::rotr(static_cast<std::uint8_t>(value ^ std::to_integer<unsigned>(key[(place + length) % 16])), 3);
+}
+
+// The cells lie on both sides of the first border between two keys.
+Bytes cells_of(const Bytes& label) {
+    return number(0, 0, 1.5).record(0x1234, Bytes().zeros(1000)).add(number(1, 0, 2.5)).add(label);
+}
+Bytes book_with(const Bytes& lock) { return sheet_8(cells_of(label_8(2, 0, "Paard")), Bytes().record(filepass, lock)); }
+const Shown all_cells = {"A1=1.5", "A2=2.5", "A3=Paard"};
+
+const Bytes weak_lock = Bytes()
+                            .u16(1)
+                            .u16(1)
+                            .u16(1)
+                            .add(hex_bytes(salt))
+                            .add(hex_bytes("01fd4e05dc6e0e72fcc4b72175686883ded643a3b989170bc6e163b5debaf714"));
+
+Bytes chosen_lock(unsigned bits, std::string_view verifier, std::string_view digest) {
+    const Bytes header =
+        Bytes().u32(4).u32(0).u32(0x6801).u32(0x8004).u32(bits).u32(1).u32(0).u32(0).wide(u"Naam").u16(0);
+    Bytes lock = Bytes().u16(1).u16(4).u16(2).u32(4).u32(static_cast<std::uint32_t>(header.size())).add(header);
+    return lock.u32(16).add(hex_bytes(salt)).add(hex_bytes(verifier)).u32(20).add(hex_bytes(digest));
+}
+
+bool asks_for_password(const Bytes& file) {
+    const auto workbook = open_xls(file.bytes());
+    return !workbook && workbook.error() == OpenFailure::password;
+}
+
+} // namespace
+
+TEST(XlsSlot, de_vingerafdrukken_zijn_de_bekende) {
+    const std::string long_text(200, 'a');
+    EXPECT_EQ(hex(md5({})), "d41d8cd98f00b204e9800998ecf8427e");
+    EXPECT_EQ(hex(md5(bytes_of("abc"))), "900150983cd24fb0d6963f7d28e17f72");
+    EXPECT_EQ(hex(md5(bytes_of(long_text.substr(0, 56)))), "3b0c8ac703f828b04c6c197006d17218");
+    EXPECT_EQ(hex(md5(bytes_of(long_text))), "887f30b43b2867f4a9accceee7d16e6c");
+    EXPECT_EQ(hex(sha1({})), "da39a3ee5e6b4b0d3255bfef95601890afd80709");
+    EXPECT_EQ(hex(sha1(bytes_of("abc"))), "a9993e364706816aba3e25717850c26c9cd0d89d");
+    EXPECT_EQ(hex(sha1(bytes_of(long_text.substr(0, 56)))), "c2db330f6083854c99d4b5bfb6e8f29f201be699");
+    EXPECT_EQ(hex(sha1(bytes_of(long_text))), "e61cfffe0d9195a525fc6cf06ca2d77119c24a40");
+}
+
+TEST(XlsSlot, de_bytes_van_rc4_zijn_de_bekende) {
+    Rc4 rc4(bytes_of("Key"));
+    std::vector<std::byte> bytes;
+    for (int i = 0; i < 9; ++i)
+        bytes.push_back(rc4.next());
+    EXPECT_EQ(hex(bytes), "eb9f7781b734ca72a7");
+}
+
+TEST(XlsSlot, rc4_van_40_bits_gaat_vanzelf_open) {
+    const Locking lock = rc4_with({"e0f0f3ab5b2c55a6fff6d99ae30691fb", "cdb235c584cc3283c74f3970baac0043"});
+    EXPECT_EQ(shown(locked(book_with(weak_lock), lock)), all_cells);
+}
+
+TEST(XlsSlot, rc4_van_gekozen_sterkte_gaat_vanzelf_open) {
+    const Bytes strong =
+        chosen_lock(128, "a024a295d910dcd16b2b69c9dfef1919", "74a70eb0e7278136e857318b9e9a13d19115d50b");
+    EXPECT_EQ(shown(locked(book_with(strong),
+                           rc4_with({"ac2a7b172474c79c0b1292e558dfd9b1", "f5648bfcf2dc15ff7dd417b6af542bcb"}))),
+              all_cells);
+    const Bytes weak = chosen_lock(0, "c872728f14b55d849b7dde3f7cfd96a7", "d5e6c96d597b070d79bf31b1599eddf2ece8d44b");
+    EXPECT_EQ(shown(locked(book_with(weak),
+                           rc4_with({"ac2a7b17240000000000000000000000", "f5648bfcf20000000000000000000000"}))),
+              all_cells);
+}
+
+TEST(XlsSlot, het_oudste_slot_gaat_vanzelf_open) {
+    EXPECT_EQ(shown(locked(book_with(Bytes().u16(0).u16(0xB359).u16(0x9A0A)), by_xor)), all_cells);
+    const Bytes old_lock = Bytes().record(filepass, Bytes().u16(0xB359).u16(0x9A0A));
+    EXPECT_EQ(shown(locked(sheet_5(cells_of(label_5(2, 0, "Paard")), old_lock), by_xor)), all_cells);
+}
+
+TEST(XlsSlot, een_eigen_wachtwoord_wordt_gevraagd) {
+    EXPECT_TRUE(asks_for_password(book_with(Bytes().u16(0).u16(0xB358).u16(0x9A0A))));
+    EXPECT_TRUE(asks_for_password(book_with(Bytes(weak_lock).put_u8(6, 0xFF)))); // another salt
+    EXPECT_TRUE(asks_for_password(book_with(chosen_lock(128, salt, salt))));
+}
+
+TEST(XlsSlot, een_slot_dat_niet_te_begrijpen_is_vraagt_om_een_wachtwoord) {
+    for (std::size_t size = 0; size < weak_lock.size(); ++size)
+        EXPECT_TRUE(asks_for_password(book_with(Bytes(weak_lock).cut(size)))) << size;
+    EXPECT_TRUE(asks_for_password(book_with(Bytes().u16(1).u16(4).u16(2).u32(0).u32(0xFFFFFFFF).zeros(200))));
+    EXPECT_TRUE(asks_for_password(book_with(chosen_lock(7, salt, salt))));
+    EXPECT_TRUE(asks_for_password(book_with(chosen_lock(1024, salt, salt))));
+}
+
+} // namespace tavelo

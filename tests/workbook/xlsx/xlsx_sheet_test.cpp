@@ -1,0 +1,140 @@
+#include "workbook/xlsx/opened_sheet.h"
+#include "workbook/xlsx/xlsx_maker.h"
+
+#include <gtest/gtest.h>
+
+namespace tavelo {
+namespace {
+
+using test::opened;
+using test::XlsxMaker;
+using Box = std::vector<std::uint32_t>; // first row, first column, rows, columns
+
+Box used_of(std::string sheet_data, std::string before = "") {
+    return opened(XlsxMaker{.sheet_data = std::move(sheet_data), .before_sheet_data = std::move(before)}.bytes())
+        .used();
+}
+
+TEST(XlsxBlad, het_gebruikte_bereik_is_de_rechthoek_om_alle_cellen_ook_lege_met_opmaak) {
+    EXPECT_EQ(used_of(R"(<row r="3"><c r="B3"><v>1</v></c></row><row r="5"><c r="D5" s="0"/></row>)"),
+              (Box{2, 1, 3, 3}));
+}
+
+TEST(XlsxBlad, een_leeg_blad_heeft_geen_rijen_en_geen_kolommen) { EXPECT_EQ(used_of(""), (Box{0, 0, 0, 0})); }
+
+TEST(XlsxBlad, een_kale_rij_telt_mee) {
+    EXPECT_EQ(used_of(R"(<row r="1"/><row r="2"><c r="A2"><v>1</v></c></row><row r="4"/>)"), (Box{0, 0, 4, 1}));
+    EXPECT_EQ(used_of(R"(<row r="2"><c r="A2"><v>1</v></c></row><row r="4" ht="40" customHeight="1"/>)"),
+              (Box{1, 0, 3, 1}));
+}
+
+TEST(XlsxBlad, een_rij_met_niets_eigens_telt_niet_mee) {
+    EXPECT_EQ(used_of(R"(<row r="1"><c r="A1"><v>1</v></c></row><row r="9" ht="12.75" customHeight="false"/>)"),
+              (Box{0, 0, 1, 1}));
+    EXPECT_EQ(used_of(R"(<row r="1"><c r="A1"><v>1</v></c></row><row r="9" customFormat="1"/>)"), (Box{0, 0, 1, 1}));
+}
+
+TEST(XlsxBlad, een_kolom_met_een_eigen_opmaak_telt_mee_en_die_van_het_hele_blad_niet) {
+    const std::string row = R"(<row r="1"><c r="B1"><v>1</v></c></row>)";
+    EXPECT_EQ(used_of(row, R"(<cols><col min="4" max="5" width="9" style="2"/></cols>)"), (Box{0, 1, 1, 4}));
+    EXPECT_EQ(used_of(row, R"(<cols><col min="4" max="5" width="9" style="0"/></cols>)"), (Box{0, 1, 1, 1}));
+    EXPECT_EQ(
+        used_of(
+            row,
+            R"(<cols><col min="1" max="5" width="9" style="2"/><col min="6" max="16384" width="8" style="2"/></cols>)"),
+        (Box{0, 1, 1, 1}));
+}
+
+TEST(XlsxBlad, de_opgegeven_afmeting_telt_niet) {
+    EXPECT_EQ(used_of(R"(<row r="1"><c r="A1"><v>1</v></c></row>)", R"(<dimension ref="A1:XFD1048576"/>)"),
+              (Box{0, 0, 1, 1}));
+}
+
+TEST(XlsxBlad, de_laatste_cel_van_het_blad_kost_niets) {
+    const auto sheet = opened(XlsxMaker{
+        .sheet_data = R"(<row r="1"><c r="A1"><v>1</v></c></row><row r="1048576"><c r="XFD1048576"><v>2</v></c></row>)"}
+                                  .bytes());
+    EXPECT_EQ(sheet.used(), (Box{0, 0, 1048576, 16384}));
+    EXPECT_EQ(sheet.sheet.cells.size(), 2U);
+}
+
+const std::string calibri =
+    R"(<fonts><font><sz val="11"/><name val="Calibri"/></font></fonts><cellStyleXfs><xf fontId="0"/></cellStyleXfs>)";
+
+TEST(XlsxBlad, kolombreedten_in_punten) {
+    const auto sheet =
+        opened(
+            XlsxMaker{
+                .before_sheet_data =
+                    R"(<cols><col min="1" max="1" width="9.140625"/><col min="3" max="4" width="16.7109375"/><col min="5" max="5" width="20" hidden="1"/></cols>)",
+                .styles = calibri}
+                .bytes())
+            .sheet;
+    EXPECT_EQ(sheet.default_column_width, 48.0);
+    EXPECT_EQ(sheet.column_widths, (std::vector{48.0, 48.0, 87.75, 87.75, 0.0}));
+}
+
+TEST(XlsxBlad, de_gewone_breedte_van_het_blad) {
+    const auto default_of = [](const std::string& attributes) {
+        return opened(XlsxMaker{.before_sheet_data = "<sheetFormatPr " + attributes + "/>", .styles = calibri}.bytes())
+            .sheet.default_column_width;
+    };
+    EXPECT_EQ(default_of(R"(defaultRowHeight="15")"), 48.0);
+    EXPECT_EQ(default_of(R"(baseColWidth="10")"), 60.0);
+    EXPECT_EQ(default_of(R"(defaultColWidth="16.7109375")"), 87.75);
+    EXPECT_EQ(default_of(R"(defaultColWidth="onzin" baseColWidth="-3")"), 48.0);
+}
+
+TEST(XlsxBlad, de_breedte_hangt_aan_het_lettertype_van_de_standaardstijl) {
+    const auto sheet =
+        opened(
+            XlsxMaker{
+                .before_sheet_data = R"(<cols><col min="1" max="1" width="16.625"/></cols>)",
+                .styles =
+                    R"(<fonts><font><sz val="9"/><name val="Arial"/></font><font><sz val="12"/><name val="Calibri"/></font></fonts><cellStyleXfs><xf fontId="0"/><xf fontId="1"/></cellStyleXfs><cellStyles><cellStyle name="Kop" xfId="0" builtinId="16"/><cellStyle name="Standaard" xfId="1" builtinId="0"/></cellStyles>)"}
+                .bytes())
+            .sheet;
+    EXPECT_EQ(sheet.column_widths, std::vector{133 * 0.75});
+}
+
+TEST(XlsxBlad, een_reeks_kolommen_buiten_het_blad_wordt_afgekapt) {
+    const auto sheet =
+        opened(
+            XlsxMaker{
+                .before_sheet_data =
+                    R"(<cols><col min="1" max="4294967295" width="9.140625"/><col min="0" max="3" width="1"/><col min="20000" max="20001" width="1"/></cols>)",
+                .styles = calibri}
+                .bytes())
+            .sheet;
+    EXPECT_EQ(sheet.column_widths.size(), 16384U);
+    EXPECT_EQ(sheet.column_widths.front(), 48.0);
+}
+
+TEST(XlsxBlad, opmaakcodes_van_de_werkmap_zelf_en_ingebouwde) {
+    const auto sheet = opened(XlsxMaker{
+        .sheet_data =
+            R"(<row r="1"><c r="A1" s="0"><v>0.5</v></c><c r="B1" s="1"><v>0.5</v></c><c r="C1" s="2"><v>0.5</v></c><c r="D1" s="3"><v>0.5</v></c><c r="E1" s="99"><v>0.5</v></c><c r="F1" s="4"><v>0.5</v></c></row>)",
+        .styles =
+            R"(<numFmts><numFmt numFmtId="164" formatCode="hh&quot; uur &quot;mm"/><numFmt numFmtId="9" formatCode="0.000"/></numFmts><cellXfs><xf/><xf numFmtId="164"/><xf numFmtId="10"/><xf numFmtId="9"/><xf numFmtId="4000"/></cellXfs><dxfs><dxf><numFmt numFmtId="164" formatCode="@"/></dxf></dxfs>)"}
+                                  .bytes());
+    EXPECT_EQ(sheet.shown("A1"), "0,5");
+    EXPECT_EQ(sheet.shown("B1"), "12 uur 00");
+    EXPECT_EQ(sheet.shown("C1"), "50,00%");
+    EXPECT_EQ(sheet.shown("D1"), "0,500");
+    EXPECT_EQ(sheet.shown("E1"), "0,5");
+    EXPECT_EQ(sheet.shown("F1"), "0,5");
+}
+
+TEST(XlsxBlad, datums_vanaf_1904) {
+    XlsxMaker maker{.sheet_data = R"(<row r="1"><c r="A1" s="1"><v>44884</v></c></row>)",
+                    .styles = R"(<cellXfs><xf/><xf numFmtId="14"/></cellXfs>)"};
+    maker.workbook_properties = R"(date1904="1")";
+    EXPECT_EQ(opened(maker.bytes()).shown("A1"), "20-11-2026");
+    maker.workbook_properties = R"(date1904="true")";
+    EXPECT_EQ(opened(maker.bytes()).shown("A1"), "20-11-2026");
+    maker.workbook_properties = R"(date1904="0")";
+    EXPECT_EQ(opened(maker.bytes()).shown("A1"), "19-11-2022");
+}
+
+} // namespace
+} // namespace tavelo

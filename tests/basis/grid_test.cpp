@@ -257,5 +257,62 @@ TEST(Grid, zonder_hertekenen_hoort_een_toehoorder_pas_aan_het_eind_een_keer_iets
     EXPECT_EQ(gehoord.resets, 1);
 }
 
+TEST(Grid, een_kolom_buiten_het_grid_heeft_geen_maat_en_krijgt_er_geen) {
+    Grid grid = grid_van(2, 2);
+    GridEvents gehoord;
+    grid.set_listener(&gehoord);
+    for (const int kolom : {-1, 2, 1000}) {
+        grid.set_column_width(kolom, 100);
+        grid.set_column_alignment(kolom, CellAlignment::right_centre);
+        grid.set_selection_column(kolom);
+        EXPECT_EQ(grid.column_width(kolom), 0);
+        EXPECT_EQ(grid.column_alignment(kolom), CellAlignment::left_centre);
+    }
+    EXPECT_EQ(gehoord.resets + gehoord.current, 0);
+    grid.set_column_alignment(0, CellAlignment::right_centre);
+    grid.set_column_alignment(1, CellAlignment::centre_centre);
+    EXPECT_EQ(grid.column_alignment(0), CellAlignment::right_centre);
+    EXPECT_EQ(grid.column_alignment(1), CellAlignment::centre_centre);
+}
+
+TEST(Grid, de_eerste_rij_en_kolom_horen_bij_het_grid) {
+    Grid grid = grid_van(3, 3);
+    grid.set_row(2);
+    grid.set_row(0);
+    EXPECT_EQ(grid.row(), 0);
+    grid.set_column(2);
+    grid.set_column(0);
+    EXPECT_EQ(grid.column(), 0);
+    grid.set_selection_column(2);
+    grid.set_selection_column(0);
+    EXPECT_EQ(grid.selection_column(), 0);
+    grid.set_top_row(2);
+    grid.set_top_row(0);
+    EXPECT_EQ(grid.top_row(), 0);
+    grid.set_row_value(0, 7);
+    EXPECT_EQ(grid.row_value(0), 7);
+    grid.set_column_width(0, 300);
+    EXPECT_EQ(grid.column_width(0), 300);
+    grid.remove_row(0);
+    EXPECT_EQ(grid.rows(), 2);
+}
+
+TEST(Grid, een_andere_bouw_van_het_grid_hoort_een_toehoorder_als_geheel) {
+    const auto gehoord_bij = [](auto wijzig) {
+        Grid grid = grid_van(3, 3);
+        GridEvents gehoord;
+        grid.set_listener(&gehoord);
+        wijzig(grid);
+        return gehoord.resets;
+    };
+    EXPECT_EQ(gehoord_bij([](Grid& grid) { grid.set_rows(5); }), 1);
+    EXPECT_EQ(gehoord_bij([](Grid& grid) { grid.set_columns(5); }), 1);
+    EXPECT_EQ(gehoord_bij([](Grid& grid) { grid.set_columns(3); }), 0);
+    EXPECT_EQ(gehoord_bij([](Grid& grid) { grid.set_fixed_rows(1); }), 1);
+    EXPECT_EQ(gehoord_bij([](Grid& grid) { grid.set_fixed_columns(1); }), 1);
+    EXPECT_EQ(gehoord_bij([](Grid& grid) { grid.set_column_width(1, 9); }), 1);
+    EXPECT_EQ(gehoord_bij([](Grid& grid) { grid.set_column_alignment(1, CellAlignment::right_centre); }), 1);
+}
+
 } // namespace
 } // namespace tavelo

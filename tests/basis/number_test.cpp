@@ -110,5 +110,16 @@ TEST(Number, een_getal_als_tekst_is_gewoon_decimaal) {
     EXPECT_EQ(leading_number(number_text(5e-324)), 5e-324); // longest of all
 }
 
+// What stands behind a text in memory is not of the number.
+TEST(Number, een_getal_eindigt_waar_zijn_tekst_eindigt) {
+    constexpr std::string_view vervolg = "1e35.5";
+    EXPECT_EQ(leading_number(vervolg.substr(0, 1)), 1);
+    EXPECT_EQ(leading_number(vervolg.substr(0, 2)), 1);
+    EXPECT_EQ(leading_number(vervolg.substr(0, 3)), 1000);
+    EXPECT_EQ(leading_number(std::string_view("12.75").substr(0, 3)), 12);
+    EXPECT_EQ(leading_number(std::string_view("1e999x9").substr(0, 5)), std::numeric_limits<double>::infinity());
+    EXPECT_EQ(leading_number("1e3x9"), 1000);
+}
+
 } // namespace
 } // namespace tavelo

@@ -115,5 +115,55 @@ TEST(Text, code_points_lezen_utf_8_en_melden_wat_het_niet_is) {
     EXPECT_EQ(terug, "aé€😀");
 }
 
+TEST(Text, van_misvormde_utf_8_is_elke_byte_een_onleesbaar_teken) {
+    const auto onleesbaar = [](std::size_t aantal) { return std::u32string(aantal, U'\xFFFD'); };
+    EXPECT_EQ(code_points("\x80"), onleesbaar(1)); // goes on with nothing
+    EXPECT_EQ(code_points("\xC1\xBF"), onleesbaar(2));
+    EXPECT_EQ(code_points("\xE0\x80"), onleesbaar(2)); // three bytes, of which one is missing
+    EXPECT_EQ(code_points("\xE0\x9F\xBF"), onleesbaar(3));
+    EXPECT_EQ(code_points("\xF0"), onleesbaar(1));
+    EXPECT_EQ(code_points("\xF0\x9F"), onleesbaar(2));
+    EXPECT_EQ(code_points("\xF0\x9F\x98"), onleesbaar(3));
+    EXPECT_EQ(code_points("\xF0\x9F\x98z"), onleesbaar(3) + U"z");
+    EXPECT_EQ(code_points("\xF0\x8F\xBF\xBF"), onleesbaar(4)); // written too long
+    EXPECT_EQ(code_points("\xF4\x90\x80\x80"), onleesbaar(4)); // beyond the last character
+    EXPECT_EQ(code_points("\xF5\x80\x80\x80"), onleesbaar(4));
+    EXPECT_EQ(code_points("\xF9\x90\x80\x80"), onleesbaar(4));
+    EXPECT_EQ(code_points("\xFF\xBF\xBF\xBF"), onleesbaar(4));
+}
+
+TEST(Text, een_teken_eindigt_waar_zijn_tekst_eindigt) {
+    constexpr std::string_view gezicht = "\xF0\x9F\x98\x80";
+    EXPECT_EQ(code_points(gezicht.substr(0, 3)), std::u32string(3, U'\xFFFD'));
+    EXPECT_EQ(code_points(std::string_view("€").substr(0, 2)), std::u32string(2, U'\xFFFD'));
+    EXPECT_EQ(code_points(std::string_view("é").substr(0, 1)), std::u32string(1, U'\xFFFD'));
+    EXPECT_EQ(lower_case(gezicht.substr(0, 3)), gezicht.substr(0, 3));
+}
+
+TEST(Text, de_grenzen_van_elke_lengte_in_utf_8_worden_goed_gelezen_en_geschreven) {
+    const std::vector<std::pair<char32_t, std::string_view>> grenzen = {{0x7F, "\x7F"},
+                                                                        {0x80, "\xC2\x80"},
+                                                                        {0x7FF, "\xDF\xBF"},
+                                                                        {0x800, "\xE0\xA0\x80"},
+                                                                        {0xD7FF, "\xED\x9F\xBF"},
+                                                                        {0xE000, "\xEE\x80\x80"},
+                                                                        {0xFFFF, "\xEF\xBF\xBF"},
+                                                                        {0x10000, "\xF0\x90\x80\x80"},
+                                                                        {0x10FFFF, "\xF4\x8F\xBF\xBF"}};
+    for (const auto& [teken, bytes] : grenzen) {
+        std::string geschreven;
+        append_utf8(geschreven, teken);
+        EXPECT_EQ(geschreven, bytes) << static_cast<std::uint32_t>(teken);
+        EXPECT_EQ(code_points(bytes), std::u32string(1, teken)) << static_cast<std::uint32_t>(teken);
+    }
+}
+
+TEST(Text, het_laatste_teken_kan_de_hele_tekst_zijn) {
+    EXPECT_EQ(last("€", 1), "€");
+    EXPECT_EQ(last("😀", 1), "😀");
+    EXPECT_EQ(last("a€", 1), "€");
+    EXPECT_EQ(last("\x82\xAC", 1), "\x82\xAC"); // the first letter of it is missing
+}
+
 } // namespace
 } // namespace tavelo

@@ -158,5 +158,12 @@ TEST(Leeftijd, een_rare_datum_wordt_gelezen_zo_ver_het_gaat) {
     EXPECT_EQ(leeftijd_van("1e999", "13-6-2026"), "");
 }
 
+TEST(Leeftijd, ook_van_vandaag_is_een_ontbrekende_dag_of_maand_de_eerste) {
+    EXPECT_EQ(leeftijd_van("1-1-2015", "2026"), "11");
+    EXPECT_EQ(leeftijd_van("2-1-2015", "2026"), "10");
+    EXPECT_EQ(leeftijd_van("1-6-2015", "6-2026"), "11");
+    EXPECT_EQ(leeftijd_van("2-6-2015", "6-2026"), "10");
+}
+
 } // namespace
 } // namespace tavelo

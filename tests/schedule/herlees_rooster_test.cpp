@@ -219,5 +219,27 @@ TEST(Herlees, een_half_geschreven_bestand_wordt_samengevoegd_zoals_het_is) {
     EXPECT_EQ(proef.namen(), (Texts{"Jan", "Piet"}));
 }
 
+TEST(Herlees, een_nummer_buiten_de_lijst_van_combinaties_heeft_geen_record_om_te_bewaren) {
+    for (const std::string_view nummer : {"4001", "5000000000"}) {
+        Grid doel;
+        doel.set_columns(kolom_laatste + 1);
+        doel.set_rows(1);
+        std::array<std::string_view, kolom_laatste + 1> rij{};
+        rij[kolom_inr] = nummer;
+        rij[kolom_cnr] = "K1";
+        doel.append_row(rij);
+        Grid bron;
+        bron.set_columns(kolom_laatste + 1);
+        bron.set_rows(1);
+        rij[kolom_naam] = "Jan";
+        bron.append_row(rij);
+        Schedule schedule;
+        voeg_rooster_samen(doel, bron, schedule, nullptr);
+        EXPECT_EQ(doel.rows(), 2) << nummer;
+        EXPECT_EQ(doel.text(1, kolom_naam), "Jan") << nummer;
+        EXPECT_EQ(schedule.deelnemer(0), "") << nummer;
+    }
+}
+
 } // namespace
 } // namespace tavelo

@@ -400,5 +400,21 @@ TEST(LeesRooster, de_ruimte_van_reusachtige_records_komt_bij_het_wissen_terug) {
     EXPECT_EQ(proef.schedule.rubriek(2), RubriekLijstRecord());
 }
 
+TEST(LeesRooster, elk_nummer_dat_niet_geldt_wordt_genoteerd_met_regel_sleutel_en_reden) {
+    Roosterproef proef;
+    ASSERT_TRUE(proef.lees({"dnr:4000\tna:Jan", "dnr:4001\tna:Piet", "rubriek:2000\toms:a", "rubriek:2001\toms:b",
+                            "dnr:40000\tna:Kees", "rnr:99999\troms:Finale", "hoofdstelnummerautomatisch:misschien"}));
+    std::vector<std::tuple<std::size_t, std::string, std::string>> genoteerd;
+    for (const auto& [regel, sleutel, reden] : proef.logboek.entries)
+        genoteerd.emplace_back(regel, sleutel, reden);
+    const std::vector<std::tuple<std::size_t, std::string, std::string>> verwacht = {
+        {3, "dnr", "nummer buiten 0 tot 4000"},
+        {5, "rubriek", "nummer buiten 1 tot 2000"},
+        {6, "dnr", "nummer past niet in 16 bits"},
+        {7, "rnr", "nummer past niet in 16 bits"},
+        {8, "hoofdstelnummerautomatisch", "geen ja of nee"}};
+    EXPECT_EQ(genoteerd, verwacht);
+}
+
 } // namespace
 } // namespace tavelo

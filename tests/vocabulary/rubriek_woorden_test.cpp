@@ -308,5 +308,31 @@ TEST(NrTijd, een_tijd_die_niet_te_rekenen_is_wordt_een_keer_gemeld) {
     EXPECT_TRUE(proef.berichten.shown[0].starts_with("minuten naar hhmm error: "));
 }
 
+TEST(RubriekWoorden, wat_geen_rechter_is_staat_niet_bij_de_jury) {
+    Schedule schedule;
+    schedule.huidige_rubriek.rjp = {"C", "M", "B", "H", "E"};
+    schedule.huidige_rubriek.rjc.fill("code");
+    RubriekLabels labels;
+    vul_rubriek_labels(schedule, labels);
+    EXPECT_EQ(labels.lblJury, "");
+    schedule.huidige_rubriek.rjn[4] = "Vos";
+    vul_rubriek_labels(schedule, labels);
+    EXPECT_EQ(labels.lblJury, "E: Vos");
+}
+
+TEST(RubriekWoorden, de_naam_van_de_ring_heeft_geen_spaties_aan_zijn_randen) {
+    const auto naam = [](std::string_view soort, std::string_view ring) {
+        Schedule schedule;
+        schedule.huidige_rubriek.rtype = soort;
+        schedule.huidige_rubriek.rring = ring;
+        RubriekLabels labels;
+        vul_rubriek_labels(schedule, labels);
+        return labels.lblRingNaam;
+    };
+    EXPECT_EQ(naam("", "2"), "2");
+    EXPECT_EQ(naam("Ring", ""), "Ring");
+    EXPECT_EQ(naam("", ""), "");
+}
+
 } // namespace
 } // namespace tavelo

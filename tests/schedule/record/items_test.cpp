@@ -185,5 +185,24 @@ TEST(Items, afdelingsdressuur_is_overal_dressuur) {
     EXPECT_EQ(discipline_van(19), Discipline::geen);
 }
 
+TEST(Items, een_sleutel_loopt_tot_de_eerste_dubbele_punt) {
+    EXPECT_EQ(zet_waarde("co", "co:a:b\tna:Jan", "2"), "co:2\tna:Jan");
+    EXPECT_EQ(zet_waarde("co", "na:co:1", "2"), "na:co:1\tco:2");
+    EXPECT_TRUE(heeft_waarde_al("co", "co:a:b", "a:b"));
+    EXPECT_FALSE(heeft_waarde_al("co", "co:a:b", "b"));
+}
+
+TEST(Items, een_item_met_alleen_een_dubbele_punt_is_van_geen_sleutel) {
+    const std::vector<std::string_view> gezocht = {"", "een_lange_sleutel", "a"};
+    std::vector<std::string> gehoord;
+    Sleutels(gezocht).doorloop(
+        ":\ta:1\t:",
+        [&](std::size_t nummer, std::string_view waarde) {
+            gehoord.push_back(std::string(gezocht[nummer]) + "=" + std::string(waarde));
+        },
+        [&](std::string_view item) { gehoord.push_back("?" + std::string(item)); });
+    EXPECT_EQ(gehoord, (std::vector<std::string>{"?:", "a=1", "?:"}));
+}
+
 } // namespace
 } // namespace tavelo

@@ -71,5 +71,41 @@ TEST(Overlap, raken_is_geen_overlap) {
     EXPECT_EQ(overlap({0, 0, 100000, 100000}, {0, 0, 100000, 100000}), 10'000'000'000);
 }
 
+TEST(PlaatsNaast, op_een_scherm_dat_links_van_nul_begint_telt_de_ruimte_vanaf_zijn_eigen_rand) {
+    const Schermvlak scherm{-1920, -200, 1920, 1080};
+    // The main window leaves 900 to its left.
+    const Schermvlak hoofdvenster{-1020, -200, 1020, 1080};
+    const Schermvlak plaats = plaats_naast(scherm, hoofdvenster, {-1010, -180, 140, 84}, wens);
+    EXPECT_EQ(plaats, (Schermvlak{-1920, 87, 900, 506}));
+    EXPECT_EQ(overlap(plaats, hoofdvenster), 0);
+    // And above it more than below it or beside it.
+    const Schermvlak onderaan{-1920, 500, 1920, 380};
+    EXPECT_EQ(plaats_naast(scherm, onderaan, {-1910, 520, 140, 84}, wens), (Schermvlak{-1440, -120, 960, 540}));
+}
+
+TEST(PlaatsNaast, een_strook_van_320_bij_180_is_net_groot_genoeg) {
+    const Schermvlak scherm{0, 0, 1320, 800};
+    const Schermvlak nummervak{340, 20, 140, 84};
+    EXPECT_EQ(plaats_naast(scherm, {320, 0, 1000, 800}, nummervak, wens), (Schermvlak{0, 310, 320, 180}));
+    // One less, and it stands in the corner.
+    EXPECT_EQ(plaats_naast(scherm, {319, 0, 1001, 800}, nummervak, wens), (Schermvlak{660, 429, 660, 371}));
+    const Schermvlak laag{0, 0, 1320, 980};
+    EXPECT_EQ(plaats_naast(laag, {0, 180, 1320, 800}, {10, 700, 140, 84}, wens), (Schermvlak{500, 0, 320, 180}));
+    EXPECT_EQ(plaats_naast(laag, {0, 179, 1320, 801}, {10, 700, 140, 84}, wens), (Schermvlak{660, 0, 660, 371}));
+}
+
+TEST(PlaatsNaast, de_grootste_plaats_wint_van_de_eerste) {
+    const Schermvlak scherm{0, 0, 1920, 1080};
+    // 400 wide to the right of it, 700 to the left.
+    EXPECT_EQ(plaats_naast(scherm, {700, 0, 820, 1080}, {710, 20, 140, 84}, wens), (Schermvlak{0, 343, 700, 393}));
+    // 400 wide beside it and 500 high below it.
+    EXPECT_EQ(plaats_naast(scherm, {0, 0, 1520, 580}, {10, 20, 140, 84}, wens), (Schermvlak{516, 580, 888, 500}));
+}
+
+TEST(PlaatsNaast, met_evenveel_ruimte_boven_als_onder_het_nummervak_staat_hij_eronder) {
+    EXPECT_EQ(plaats_naast({0, 0, 1280, 800}, {0, 0, 1280, 800}, {80, 350, 140, 100}, wens),
+              (Schermvlak{658, 450, 622, 350}));
+}
+
 } // namespace
 } // namespace tavelo

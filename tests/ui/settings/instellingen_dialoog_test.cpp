@@ -65,6 +65,41 @@ TEST(InstellingenDialoog, elke_instelling_behalve_de_laatste_map_heeft_precies_e
             << instelling.sleutel;
 }
 
+TEST(InstellingenDialoog, elke_besturing_heeft_haar_naam_en_bewerkt_haar_instelling) {
+    const std::vector<std::pair<std::string_view, std::string_view>> verwacht = {
+        {"CmbFontName", "fontname"},
+        {"btnKleur_0", "backcolor"},
+        {"btnKleur_1", "forecolor"},
+        {"btnKleur_2", "rubricbackcolor"},
+        {"btnKleur_3", "rubricforecolor"},
+        {"HScrollRubriekTekstGrootte", "rubrictextsize"},
+        {"HScrollDeelnemerTekstGrootte", "textsize"},
+        {"optRubriekUitlijning", "rubricalignment"},
+        {"optDeelnemerUitlijning", "alignment"},
+        {"chkRubriek", "showrubric"},
+        {"optNummer", "shownumber"},
+        {"chkRuiterNaam", "showridername"},
+        {"chkDierNaam", "showhorsename"},
+        {"chkDierVader", "showhorsesire"},
+        {"chkDierVaderMoeder", "showhorsesiredamr"},
+        {"chkDierKleur", "showhorsecolor"},
+        {"chkDierGeslacht", "showhorsegender"},
+        {"chkDierLeeftijd", "showhorseage"},
+        {"chkDierStamboek", "showhorsebreed"},
+        {"chkDierFokker", "showhorsebreeder"},
+        {"chkVerenigingNaam", "showunionname"},
+        {"chkVeldnamen", "fieldnames"},
+    };
+    for (const auto& [naam, sleutel] : verwacht) {
+        const auto instelling = std::ranges::find(instellingen_tabel(), sleutel, &Instelling::sleutel);
+        ASSERT_NE(instelling, instellingen_tabel().end()) << sleutel;
+        const auto besturing = std::ranges::find(instelling_besturingen(), naam, &InstellingBesturing::naam);
+        ASSERT_NE(besturing, instelling_besturingen().end()) << naam;
+        EXPECT_EQ(besturing->veld, instelling->veld) << naam;
+    }
+    EXPECT_EQ(verwacht.size() + 12, aantal_besturingen); // and the twelve lists of columns
+}
+
 TEST(InstellingenDialoog, de_excel_lijsten_staan_in_de_volgorde_van_hun_sleutels) {
     const std::vector<std::string_view> sleutels = {"col_startnumber", "col_hnr",           "col_rider_name",
                                                     "col_horse_name",  "col_horse_sire",    "col_horse_siredam",

@@ -129,8 +129,8 @@ std::string leeftijd_van(std::string_view geboortedatum, std::string_view vandaa
     double maanden = nu.maand - geboren.maand;
     if (nu.dag - geboren.dag < 0) maanden -= 1;
     if (maanden < 0) jaren -= 1;
-    if (!std::isfinite(jaren)) return ""; // a year with hundreds of digits
-    return number_text(jaren);
+    if (!std::isfinite(jaren)) return "";       // a year with hundreds of digits
+    return number_text(round_half_even(jaren)); // a year may be written with a fraction
 }
 
 } // namespace tavelo

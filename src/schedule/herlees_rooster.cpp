@@ -22,9 +22,11 @@ constexpr std::array vergeleken_kolommen = {kolom_cnr,   kolom_naam,       kolom
 
 double nummer_van(const Grid& grid, int rij) { return leading_number(grid.text(rij, kolom_inr)); }
 
-// A change of letter case, of "(HC)" or of double spaces in a name is no change.
+// A change of letter case, of "(HC)" or of the number of blanks between words in a name is no change.
 std::string naam_voor_vergelijking(std::string_view naam) {
-    const std::string zonder = replaced(removed(naam, "(HC)"), "  ", " ");
+    std::string zonder = removed(naam, "(HC)");
+    const auto weer_een_spatie = [](char links, char rechts) { return links == ' ' && rechts == ' '; };
+    zonder.erase(std::ranges::unique(zonder, weer_een_spatie).begin(), zonder.end());
     return lower_case(trimmed(zonder));
 }
 

@@ -165,5 +165,13 @@ TEST(Leeftijd, ook_van_vandaag_is_een_ontbrekende_dag_of_maand_de_eerste) {
     EXPECT_EQ(leeftijd_van("2-6-2015", "6-2026"), "10");
 }
 
+TEST(Leeftijd, is_ook_bij_een_breuk_in_de_datum_in_hele_jaren) {
+    EXPECT_EQ(leeftijd_van("5.2", "1-1-2026"), "2021");
+    EXPECT_EQ(leeftijd_van("1-1-2015.8", "13-6-2026"), "10");
+    EXPECT_EQ(leeftijd_van("1-1-2015.5", "13-6-2026"), "10"); // halves to the even year
+    EXPECT_EQ(leeftijd_van("1-1-2014.5", "13-6-2026"), "12");
+    EXPECT_EQ(leeftijd_van("1-1-2026.4", "13-6-2026"), "0");
+}
+
 } // namespace
 } // namespace tavelo

@@ -74,8 +74,9 @@ TEST(Herlees, van_twee_rijen_met_hetzelfde_nummer_wordt_alleen_de_eerste_bijgewe
 }
 
 TEST(Herlees, alleen_hoofdletters_hc_of_dubbele_spaties_in_een_naam_is_geen_wijziging) {
-    for (const std::string_view nieuw : {"na:JAN DE BOER", "na:Jan  de Boer", "na:jan de boer (HC)", "na: Jan de Boer ",
-                                         "na:Jan (HC) de Boer", "na:Jan de Boer\tdh:1"}) {
+    for (const std::string_view nieuw :
+         {"na:JAN DE BOER", "na:Jan  de Boer", "na:jan de boer (HC)", "na: Jan de Boer ", "na:Jan (HC) de Boer",
+          "na:Jan de Boer\tdh:1", "na:Jan   de    Boer", "na:  Jan (HC)  (HC) de Boer"}) {
         Herleesproef proef(tekst_van({{1, "na:Jan de Boer"}}));
         ASSERT_TRUE(proef.herlees(tekst_van({{1, nieuw}})));
         EXPECT_EQ(proef.cel(1, kolom_naam), "Jan de Boer") << nieuw;

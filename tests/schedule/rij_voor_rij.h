@@ -22,7 +22,10 @@ inline bool cel_is_anders(int kolom, const std::string& oud, const std::string& 
     if (kolom == kolom_cnr) return oud != nieuw && !nieuw.empty();
     if (kolom != kolom_naam) return lower_case(oud) != lower_case(nieuw);
     const auto kaal = [](const std::string& naam) {
-        return lower_case(trimmed(replaced(replaced(naam, "(HC)", ""), "  ", " ")));
+        std::string tekst = replaced(naam, "(HC)", "");
+        while (tekst.contains("  "))
+            tekst = replaced(tekst, "  ", " ");
+        return lower_case(trimmed(tekst));
     };
     return kaal(oud) != kaal(nieuw);
 }

@@ -23,8 +23,9 @@ using Lijst = std::vector<Rij>;
 const std::vector<std::string> vreemde_nummers = {"P",         "p",    "",     "0",      "-3",  " 7",  "7.0",
                                                   "7x",        "0.3",  "2.5",  "&H5",    "1e1", "1e9", "1e999",
                                                   "999999999", "4000", "4001", "4000.4", "-0",  "\t5"};
-const std::vector<std::string> teksten = {"",           "Jan", "JAN", "jan (HC)", "Jan  de Wit", "Jan (HC) de Wit",
-                                          "Jan de Wit", "é",   "É",   "  ",       "L",           "(HC)"};
+const std::vector<std::string> teksten = {
+    "",           "Jan", "JAN", "jan (HC)", "Jan  de Wit", "Jan   de Wit", "Jan (HC) de Wit",
+    "Jan de Wit", "é",   "É",   "  ",       "L",           "(HC)"};
 
 std::string nummer(Toeval& toeval, int bereik) {
     return toeval.een_op(5) ? toeval.uit(vreemde_nummers) : std::to_string(1 + toeval.onder(bereik));

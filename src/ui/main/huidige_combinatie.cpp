@@ -21,6 +21,9 @@ std::optional<int> zoek_rij(const Grid& grid, double nummer) {
     return gevonden;
 }
 
+// The number in the box, for whoever asks; one that does not fit 16 bits selects nothing.
+std::int16_t nummer_in_vak(const Programma& p) { return int16_of(p.txtINR).value_or(0); }
+
 void neem_rij_over(Programma& p, int rij) {
     p.huidige_regel = rij;
     p.huidig_nr_tijd = p.grdRooster.text(rij, kolom_nrtijd);
@@ -30,7 +33,7 @@ void neem_rij_over(Programma& p, int rij) {
 void txtINR_gewijzigd(Bediening& bediening) {
     Programma& p = bediening.programma;
     p.huidige_regel = 0;
-    p.huidig_nummer = int16_of(p.txtINR).value_or(0); // a number that does not fit selects nothing
+    p.huidig_nummer = nummer_in_vak(p);
     p.huidig_nr_tijd.clear();
     p.huidig_hnr.clear();
     p.huidig_naam.clear();
@@ -91,7 +94,7 @@ void blader(Bediening& bediening, Blader richting) {
         bediening.voorbeeld.picRubriek.wis();
         return;
     }
-    const double nummer = leading_number(p.txtINR);
+    const std::int16_t nummer = nummer_in_vak(p);
     if (nummer == 0) return;
     Grid& grid = p.grdRooster;
     const int begin = zoek_rij(grid, nummer).value_or(grid.row());

@@ -306,6 +306,23 @@ TEST_F(HuidigeCombinatie, met_een_leeg_nummervak_doet_bladeren_niets) {
     }
 }
 
+TEST_F(HuidigeCombinatie, bladeren_leest_het_nummervak_zoals_het_vak_zelf) {
+    vul({"3", "12", "40000", "32768", "-40000"});
+    for (const char* tekst : {"40000", "32768", "0.4", "-40000", "-0.5"}) {
+        typ(tekst);
+        grid.set_row(2);
+        blader(bediening, Blader::volgende);
+        blader(bediening, Blader::vorige);
+        EXPECT_EQ(p.txtINR, tekst);
+        EXPECT_EQ(p.huidige_regel, 0) << tekst;
+        EXPECT_EQ(grid.row(), 2) << tekst;
+    }
+    typ("2.6"); // rounded, as the box shows it
+    verwacht_rij(1);
+    blader(bediening, Blader::volgende);
+    verwacht_rij(2);
+}
+
 TEST_F(HuidigeCombinatie, bladeren_begint_bij_de_laatste_rij_met_het_nummer) {
     vul({"5", "3", "5", "4"});
     kies(1);

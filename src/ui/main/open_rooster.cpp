@@ -75,6 +75,7 @@ void lees_roosterbestand(Bediening& bediening, int slot) {
 
 void laad_roosterbestand(Bediening& bediening, int slot) {
     const Programma& p = bediening.programma;
+    const BusyPointer bezig(bediening.omgeving.muisaanwijzer);
     // A file that is not there keeps its slot: on a share it may come back.
     if (bestandbestaat(p.rooster_bestand)) lees_roosterbestand(bediening, slot);
     // Also when nothing was read: the title over the times is no longer that of the last file.
@@ -109,13 +110,11 @@ void kies_bestand(Bediening& bediening, std::string_view pad, int slot) {
 void laad_rooster(Bediening& bediening, int slot) {
     Programma& p = bediening.programma;
     const Omgeving& omgeving = bediening.omgeving;
-    const BusyPointer bezig(omgeving.muisaanwijzer);
     wis_rooster(bediening);
-    p.bijschrift = bijschrift_naamloos; // an empty list does not bear the name of the last file
     const WithoutRedraw ongezien(p.grdRooster);
     const std::string soort = slot_van(p, slot).extensie;
     if (soort == "rst") laad_roosterbestand(bediening, slot);
-    if (soort == "xls") {
+    if (soort == "xls") { // shows the hourglass itself, and puts it away before it speaks
         open_excel_rooster(p.rooster_bestand, slot, p, omgeving.excel, omgeving.berichten, omgeving.muisaanwijzer);
         wis_labels(p.labels);
     }

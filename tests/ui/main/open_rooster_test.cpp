@@ -13,7 +13,6 @@ namespace tavelo {
 namespace {
 
 constexpr const char* dialoog_filter = "Roosterbestanden (*.rst)|*.rst|Excel bestanden (*.xls;*.xlsx))|*.xls;*.xlsx";
-constexpr const char* naamloos = "Vendalo 3.5 Tavelo - [naamloos]";
 
 // A schedule of dressage class B on Saturday from 9:05, with these numbers (each of a rider "Ruiter N").
 std::string roostertekst(const std::vector<int>& nummers) {
@@ -224,13 +223,14 @@ TEST_F(OpenRooster, een_bestand_zonder_tijd_heeft_een_lege_stempel) {
 
 TEST_F(OpenRooster, een_bestand_met_een_andere_extensie_geeft_een_leeg_rooster_maar_wordt_onthouden) {
     kies_in_dialoog(schrijf("a.rst", {3, 12}), 0);
+    const std::string bijschrift = p.bijschrift;
     const std::string tekst = schrijf("a.txt", {5});
     kies_in_dialoog(tekst, 0);
     EXPECT_EQ(p.grdRooster.rows(), 1);
     EXPECT_EQ(p.rooster_bestand, tekst);
     EXPECT_EQ(p.rooster_extensie, "");
     verwacht_slot(0, {tekst, "20260613080509", ""});
-    EXPECT_EQ(p.bijschrift, naamloos);
+    EXPECT_EQ(p.bijschrift, bijschrift); // only what is read changes it
     EXPECT_EQ(p.labels.lblRubriek, "");
     EXPECT_TRUE(berichten.shown.empty());
 }
@@ -258,10 +258,11 @@ TEST_F(OpenRooster, annuleren_vanuit_het_menu_geeft_het_slot_het_huidige_bestand
 
 TEST_F(OpenRooster, annuleren_zonder_huidig_bestand_laat_een_leeg_rooster) {
     p.grdRooster.set_rows(5);
+    p.bijschrift = "van de vorige";
     kies_in_dialoog(std::nullopt, 0);
     EXPECT_EQ(p.grdRooster.rows(), 1);
     verwacht_slot(0, {});
-    EXPECT_EQ(p.bijschrift, naamloos);
+    EXPECT_EQ(p.bijschrift, "van de vorige");
 }
 
 // ---- what is read
@@ -293,14 +294,15 @@ TEST_F(OpenRooster, voor_het_lezen_wordt_alles_van_het_vorige_rooster_gewist) {
     EXPECT_EQ(p.grdRooster.column_width(kolom_naam), 2400);
 }
 
-TEST_F(OpenRooster, een_bestand_dat_geen_rooster_is_leegt_zijn_slot_en_heet_naamloos) {
+TEST_F(OpenRooster, een_bestand_dat_geen_rooster_is_leegt_zijn_slot_en_laat_het_bijschrift_staan) {
     kies_in_dialoog(schrijf("a.rst", {3}), 0);
+    const std::string bijschrift = p.bijschrift;
     for (const char* inhoud : {"", "[Vendalo 3.4] \r\nrnr:1\tdnr:3", "[vendalo 3.4]\r\n", "\xFF\x00\x01"}) {
         map.write("laatst/b.rst", inhoud);
         tijdstempels.stamps[pad("b.rst")] = {2026, 6, 13, 8, 5, 9};
         kies_in_dialoog(pad("b.rst"), 1);
         EXPECT_EQ(p.grdRooster.rows(), 1) << inhoud;
-        EXPECT_EQ(p.bijschrift, naamloos) << inhoud;
+        EXPECT_EQ(p.bijschrift, bijschrift) << inhoud;
         verwacht_slot(1, {});
         EXPECT_EQ(p.rooster_bestand, pad("b.rst"));
     }
@@ -322,14 +324,15 @@ TEST_F(OpenRooster, ook_zonder_rooster_volgt_de_titel_boven_de_tijden_de_lege_ru
 
 TEST_F(OpenRooster, een_bestand_dat_er_niet_is_houdt_zijn_slot) {
     tijdstempels.stamps[pad("weg.rst")] = {2026, 6, 13, 8, 5, 9};
+    p.bijschrift = "van de vorige";
     kies_in_dialoog(pad("weg.rst"), 0);
     EXPECT_EQ(p.grdRooster.rows(), 1);
-    EXPECT_EQ(p.bijschrift, naamloos);
+    EXPECT_EQ(p.bijschrift, "van de vorige");
     verwacht_slot(0, {pad("weg.rst"), "20260613080509", "rst"});
     std::filesystem::create_directory(map.file("laatst/map.rst"));
     kies_in_dialoog(pad("map.rst"), 0);
     EXPECT_EQ(p.grdRooster.rows(), 1);
-    EXPECT_EQ(p.bijschrift, naamloos);
+    EXPECT_EQ(p.bijschrift, "van de vorige");
 }
 
 TEST_F(OpenRooster, een_werkmap_vult_het_rooster_en_wist_de_labels) {
@@ -352,6 +355,24 @@ TEST_F(OpenRooster, een_werkmap_vult_het_rooster_en_wist_de_labels) {
     EXPECT_EQ(p.labels.lblRingNaam, "");
     EXPECT_EQ(p.labels.lblDagTijd, "");
     EXPECT_TRUE(p.grdRooster.redraw());
+    EXPECT_EQ(muisaanwijzer.depth, 0);
+}
+
+TEST_F(OpenRooster, de_vraag_om_kolomletters_komt_zonder_zandloper) {
+    struct BerichtenBijAanwijzer final : MessageBox {
+        explicit BerichtenBijAanwijzer(const test::FakePointer& pointer) : pointer_(pointer) {}
+        void show(std::string_view /*text*/) override { dieptes.push_back(pointer_.depth); }
+        const test::FakePointer& pointer_;
+        std::vector<int> dieptes;
+    } gezien(muisaanwijzer);
+    test::FakeExcel spreadsheet;
+    spreadsheet.sheets = {test::sheet_of({{"1", "Jan"}})};
+    Bediening met_excel{
+        p, {meter, gezien, open_dialoog, tijdstempels, klok, muisaanwijzer, logboek, spreadsheet}, {}, {}};
+    open_dialoog.answer = pad("plan.xlsx");
+    open_rooster(met_excel, "", 0);
+    EXPECT_EQ(gezien.dieptes, std::vector{0});
+    EXPECT_GT(muisaanwijzer.times_busy, 0);
     EXPECT_EQ(muisaanwijzer.depth, 0);
 }
 

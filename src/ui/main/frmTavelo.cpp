@@ -5,14 +5,13 @@
 #include "platform/qt_text.h"
 #include "ui/display/frmDeelnemer.h"
 #include "ui/main/auto_import.h"
+#include "ui/main/frmDetails.h"
+#include "ui/main/frmPaneel.h"
 #include "ui/main/muiswiel.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -26,26 +25,6 @@ namespace tavelo {
 namespace {
 
 // In device-independent pixels.
-constexpr int marge = 8;
-constexpr int paneelhoogte = 84;
-// Widths on a screen with room, and on a small one, where the last columns of the grid are reached by scrolling.
-struct Breedten {
-    int grid; // with room: all columns and the scroll bar
-    int nummervak;
-    int bladerknop;
-    int slotknop;
-    int snelknop;
-    double nummerlabel; // its letter, relative to that of the desktop
-};
-constexpr Breedten ruim{784, 140, 70, 78, 48, 1.3};
-constexpr Breedten krap{570, 110, 60, 66, 40, 1};
-constexpr int ruim_scherm = 1200;
-
-const Breedten& breedten(const QWidget& venster) {
-    const QScreen* scherm = venster.screen();
-    return scherm && scherm->availableGeometry().width() < ruim_scherm ? krap : ruim;
-}
-
 constexpr QSize venstermaat(1240, 760);
 
 constexpr int groen_ms = 500; // a re-read takes less than a frame: nobody would see it
@@ -62,30 +41,6 @@ QRect pixelvlak(const Rechthoek& r) {
 }
 
 Rechthoek twipsvlak(const QRect& r) { return {twips(r.x()), twips(r.y()), twips(r.width()), twips(r.height())}; }
-
-QString genummerd(const QString& naam, std::size_t index) { return QStringLiteral("%1_%2").arg(naam).arg(index); }
-
-QToolButton* maak_knop(QWidget* ouder, const QString& naam, const QString& toegankelijk, const QString& uitleg) {
-    auto* knop = new QToolButton(ouder);
-    knop->setObjectName(naam);
-    knop->setAccessibleName(toegankelijk);
-    knop->setToolTip(uitleg);
-    knop->setAutoRaise(false);
-    knop->setFocusPolicy(Qt::TabFocus); // a click leaves the focus in the number box
-    knop->setIconSize(QSize(32, 32));
-    return knop;
-}
-
-// A screen reader hears what the text is about as well.
-void toon_tekst(QLabel& label, const QString& kop, std::string_view tekst) {
-    label.setText(line_of_text(tekst));
-    label.setAccessibleName(kop + QStringLiteral(": ") + label.text());
-}
-
-// Wider where the letter of the desktop asks for it.
-void zet_maat(QToolButton& knop, int breedte) {
-    knop.setFixedSize(std::max(breedte, knop.sizeHint().width()), paneelhoogte);
-}
 
 } // namespace
 
@@ -133,16 +88,14 @@ void frmTavelo::bouw_menu() {
 void frmTavelo::bouw_bediening() {
     vlak_ = new QWidget(this);
     setCentralWidget(vlak_);
-    paneel_ = new QWidget(vlak_);
-    auto* rij = new QHBoxLayout(paneel_);
-    rij->setContentsMargins(0, 0, 0, 0);
-    rij->setSpacing(4);
-    bouw_nummervak(*rij);
-    bouw_bladerknoppen(*rij);
-    rij->addStretch();
-    bouw_slotknoppen(*rij);
-    rij->addStretch();
-    bouw_snelknoppen(*rij);
+    PaneelActies acties;
+    acties.typ_nummer = [this](const QString& tekst) { kies_nummer(tekst); };
+    acties.blader = [this](Blader richting) { druk_blader(richting); };
+    acties.slot = [this](int slot, Muisknop knop) { druk_slot(slot, knop); };
+    acties.openen = [this] { open_bestand(); };
+    acties.instellingen = [this] { toon_instellingen(); };
+    acties.monitorvenster = [this] { wissel_deelnemer(); };
+    paneel_ = new Paneel(std::move(acties), vlak_);
 
     lblRoosterOmschrijving_ = new ElidedLabel(vlak_);
     lblRoosterOmschrijving_->setObjectName(QStringLiteral("lblRoosterOmschrijving"));
@@ -159,147 +112,11 @@ void frmTavelo::bouw_bediening() {
         toon();
     });
 
-    bouw_details();
+    frameRoosterinstellingen_ = new RoosterDetails(vlak_);
     picDeelnemer_ = new VertoningWidget(bediening_.voorbeeld, vlak_);
     picDeelnemer_->setAccessibleName(QStringLiteral("Voorbeeld van de monitor"));
     picDeelnemer_->setToolTip(QStringLiteral("Voorbeeld van wat op de monitor staat"));
-    zet_tabvolgorde();
-}
-
-void frmTavelo::bouw_nummervak(QHBoxLayout& rij) {
-    auto* label = new QLabel(QStringLiteral("&Nummer:"), paneel_);
-    label->setObjectName(QStringLiteral("lblNummer"));
-    QFont letter = label->font();
-    letter.setPointSizeF(letter.pointSizeF() * breedten(*this).nummerlabel);
-    label->setFont(letter);
-    txtINR_ = new QLineEdit(paneel_);
-    txtINR_->setObjectName(QStringLiteral("txtINR"));
-    txtINR_->setAccessibleName(QStringLiteral("Nummer van de combinatie in de ring"));
-    txtINR_->setToolTip(QStringLiteral("Typ het nummer van de combinatie in de ring"));
-    txtINR_->setAlignment(Qt::AlignCenter);
-    QFont groot = txtINR_->font();
-    groot.setPixelSize(48);
-    groot.setBold(true);
-    txtINR_->setFont(groot);
-    txtINR_->setFixedSize(breedten(*this).nummervak, paneelhoogte);
-    label->setBuddy(txtINR_);
-    rij.addWidget(label);
-    rij.addWidget(txtINR_);
-    connect(txtINR_, &QLineEdit::textChanged, this, &frmTavelo::kies_nummer);
-    connect(txtINR_, &QLineEdit::returnPressed, txtINR_, &QLineEdit::selectAll);
-}
-
-void frmTavelo::bouw_bladerknoppen(QHBoxLayout& rij) {
-    struct Ontwerp {
-        const char* tekst;
-        const char* toegankelijk;
-        const char* uitleg;
-        Picture plaatje;
-        Blader richting;
-    };
-    constexpr std::array<Ontwerp, 3> ontwerp = {{
-        {"&Vorige", "Vorige combinatie", "Vorige combinatie (Alt+V)", Picture::previous, Blader::vorige},
-        {"V&olgende", "Volgende combinatie", "Volgende combinatie (Alt+O)", Picture::next, Blader::volgende},
-        {"&Wissen", "Nummer wissen", "Nummer en monitor wissen (Alt+W)", Picture::clear, Blader::wis},
-    }};
-    for (std::size_t i = 0; i < ontwerp.size(); ++i) {
-        QToolButton* knop = maak_knop(paneel_, genummerd(QStringLiteral("btnBlader"), i),
-                                      QString::fromUtf8(ontwerp[i].toegankelijk), QString::fromUtf8(ontwerp[i].uitleg));
-        knop->setText(QString::fromUtf8(ontwerp[i].tekst));
-        knop->setIcon(icon(ontwerp[i].plaatje));
-        knop->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-        zet_maat(*knop, breedten(*this).bladerknop);
-        const Blader richting = ontwerp[i].richting;
-        connect(knop, &QToolButton::clicked, this, [this, richting] { druk_blader(richting); });
-        rij.addWidget(knop);
-        btnBlader_[i] = knop;
-    }
-}
-
-void frmTavelo::bouw_slotknoppen(QHBoxLayout& rij) {
-    for (std::size_t i = 0; i < btnRooster_.size(); ++i) {
-        const int slot = static_cast<int>(i);
-        QToolButton* knop = maak_knop(paneel_, genummerd(QStringLiteral("btnRooster"), i),
-                                      QStringLiteral("Rooster %1").arg(slot + 1), QString());
-        knop->setText(QStringLiteral("Rooster &%1").arg(slot + 1));
-        knop->setCheckable(true);
-        zet_maat(*knop, breedten(*this).slotknop);
-        knop->setContextMenuPolicy(Qt::CustomContextMenu);
-        connect(knop, &QToolButton::clicked, this, [this, slot] { druk_slot(slot, Muisknop::links); });
-        connect(knop, &QToolButton::customContextMenuRequested, this,
-                [this, slot] { druk_slot(slot, Muisknop::rechts); });
-        rij.addWidget(knop);
-        btnRooster_[i] = knop;
-    }
-}
-
-void frmTavelo::bouw_snelknoppen(QHBoxLayout& rij) {
-    const auto maak = [&](std::size_t i, Picture plaatje, const QString& naam, const QString& uitleg,
-                          void (frmTavelo::*gedrukt)()) {
-        QToolButton* knop = maak_knop(paneel_, genummerd(QStringLiteral("btnFast"), i), naam, uitleg);
-        knop->setIcon(icon(plaatje));
-        zet_maat(*knop, breedten(*this).snelknop);
-        connect(knop, &QToolButton::clicked, this, gedrukt);
-        rij.addWidget(knop);
-        btnFast_[i] = knop;
-    };
-    maak(0, Picture::open, QStringLiteral("Rooster openen"), QStringLiteral("Rooster openen (Ctrl+O)"),
-         &frmTavelo::open_bestand);
-    maak(1, Picture::settings, QStringLiteral("Instellingen"), QStringLiteral("Instellingen"),
-         &frmTavelo::toon_instellingen);
-    maak(2, Picture::monitor, QStringLiteral("Monitorvenster"),
-         QStringLiteral("Monitorvenster openen of sluiten (Alt+P)"), &frmTavelo::wissel_deelnemer);
-}
-
-void frmTavelo::bouw_details() {
-    frameRoosterinstellingen_ = new QGroupBox(QStringLiteral("Rooster"), vlak_);
-    frameRoosterinstellingen_->setObjectName(QStringLiteral("frameRoosterinstellingen"));
-    struct Ontwerp {
-        const char* naam;
-        const char* kop;
-        std::string RubriekLabels::*tekst;
-    };
-    constexpr std::array<Ontwerp, 6> ontwerp = {{
-        {"lblRubriek", "Rubriek", &RubriekLabels::lblRubriek},
-        {"lblRingType", "Ringtype", &RubriekLabels::lblRingType},
-        {"lblRingNaam", "Ring", &RubriekLabels::lblRingNaam},
-        {"lblDagTijd", "Dag en tijd", &RubriekLabels::lblDagTijd},
-        {"lblRubriekLijsten", "Lijsten", &RubriekLabels::lblRubriekLijsten},
-        {"lblJury", "Jury", &RubriekLabels::lblJury},
-    }};
-    const int regel = fontMetrics().height() + 3;
-    const int boven = fontMetrics().height() + 6; // below the title of the frame
-    int kopbreedte = 0;
-    for (const Ontwerp& o : ontwerp)
-        kopbreedte = std::max(kopbreedte, fontMetrics().horizontalAdvance(QString::fromUtf8(o.kop) + ':'));
-    label_links_ = twips(marge + kopbreedte + marge);
-    int y = boven;
-    for (const Ontwerp& o : ontwerp) {
-        auto* kop = new QLabel(QString::fromUtf8(o.kop) + ':', frameRoosterinstellingen_);
-        kop->setForegroundRole(QPalette::PlaceholderText);
-        kop->setGeometry(marge, y, kopbreedte, regel);
-        auto* label = new ElidedLabel(frameRoosterinstellingen_);
-        label->setObjectName(QString::fromUtf8(o.naam));
-        label->setGeometry(pixels(label_links_), y, 100, regel);
-        details_.push_back({label, QString::fromUtf8(o.kop), o.tekst});
-        y += regel;
-    }
-    QFont vet = font();
-    vet.setBold(true);
-    details_.front().label->setFont(vet);
-    frameRoosterinstellingen_->resize(100, y + 6);
-}
-
-void frmTavelo::zet_tabvolgorde() {
-    QWidget* vorige = txtINR_;
-    const auto daarna = [&](QWidget* volgende) {
-        setTabOrder(vorige, volgende);
-        vorige = volgende;
-    };
-    std::ranges::for_each(btnBlader_, daarna);
-    std::ranges::for_each(btnRooster_, daarna);
-    std::ranges::for_each(btnFast_, daarna);
-    daarna(grdRooster_);
+    paneel_->zet_tabvolgorde(grdRooster_);
 }
 
 // The places before the resize rules move them.
@@ -326,20 +143,15 @@ void frmTavelo::toon_venster() {
     }
     toon();
     show();
-    txtINR_->setFocus();
+    paneel_->txtINR().setFocus();
     timer1_.start();
 }
 
 void frmTavelo::toon() {
     setWindowTitle(venstertitel(programma_.bijschrift));
-    for (const Detail& detail : details_)
-        toon_tekst(*detail.label, detail.kop, programma_.labels.*detail.tekst);
+    frameRoosterinstellingen_->toon(programma_.labels);
     toon_omschrijving();
-    toon_slots();
-    if (const QString tekst = qt_text(programma_.txtINR); txtINR_->text() != tekst) {
-        const QScopedValueRollback schrijft(schrijft_, true);
-        txtINR_->setText(tekst);
-    }
+    paneel_->toon(programma_);
     toon_vertoningen();
 }
 
@@ -359,17 +171,7 @@ void frmTavelo::toon_omschrijving() {
     toon_tekst(*lblRoosterOmschrijving_, QStringLiteral("Omschrijving"), programma_.labels.lblRoosterOmschrijving);
 }
 
-void frmTavelo::toon_slots() {
-    for (std::size_t i = 0; i < btnRooster_.size(); ++i) {
-        const std::string& bestand = programma_.slots[i].bestand;
-        btnRooster_[i]->setChecked(programma_.rooster_slot == static_cast<int>(i));
-        btnRooster_[i]->setToolTip(bestand.empty() ? QStringLiteral("Nog geen bestand: klik om te openen")
-                                                   : plain_tooltip(qt_text(bestand)));
-    }
-}
-
 void frmTavelo::kies_nummer(const QString& tekst) {
-    if (schrijft_) return;
     typ_txtINR(bediening_, utf8(tekst));
     if (programma_.huidige_regel >= 1) grdRooster_->breng_in_beeld();
     toon();
@@ -379,13 +181,12 @@ void frmTavelo::druk_blader(Blader richting) {
     blader(bediening_, richting);
     if (programma_.huidige_regel >= 1) grdRooster_->breng_in_beeld();
     toon();
-    if (richting == Blader::wis) txtINR_->setFocus();
+    if (richting == Blader::wis) paneel_->txtINR().setFocus();
 }
 
 void frmTavelo::druk_slot(int slot, Muisknop knop) {
     // The toolkit pressed the button that was clicked; the other one comes up before the file is read.
-    for (std::size_t i = 0; i < btnRooster_.size(); ++i)
-        btnRooster_[i]->setChecked(slot == static_cast<int>(i));
+    paneel_->toon_gekozen_slot(slot);
     klik_slot(bediening_, slot, knop);
     toon();
 }
@@ -406,7 +207,8 @@ void frmTavelo::wissel_deelnemer() {
         return;
     }
     deelnemer_ = new frmDeelnemer(
-        programma_, bediening_.deelnemer_venster, [this] { toon_deelnemer_venster(bediening_); }, *this, *txtINR_);
+        programma_, bediening_.deelnemer_venster, [this] { toon_deelnemer_venster(bediening_); }, *this,
+        paneel_->txtINR());
     deelnemer_->open();
 }
 
@@ -427,12 +229,12 @@ void frmTavelo::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     if (ontwerp_.grdRooster.breedte == 0) return; // not laid out yet
     const QSize binnen = vlak_->size();
-    const Plaatsen plaatsen = deel_in({twips(binnen.width()), twips(binnen.height())}, ontwerp_, label_links_);
+    const Plaatsen plaatsen =
+        deel_in({twips(binnen.width()), twips(binnen.height())}, ontwerp_, frameRoosterinstellingen_->label_links());
     grdRooster_->setGeometry(pixelvlak(plaatsen.grdRooster));
     picDeelnemer_->setGeometry(pixelvlak(plaatsen.picDeelnemer));
     frameRoosterinstellingen_->setGeometry(pixelvlak(plaatsen.frameRoosterinstellingen));
-    for (const Detail& detail : details_)
-        detail.label->resize(std::max(pixels(plaatsen.labelbreedte), 0), detail.label->height());
+    frameRoosterinstellingen_->zet_labelbreedte(plaatsen.labelbreedte);
     picDeelnemer_->neem_maat();
     toon_voorbeeld(bediening_);
     picDeelnemer_->ververs();
@@ -456,8 +258,8 @@ void frmTavelo::keyPressEvent(QKeyEvent* event) {
     // A digit typed anywhere in the window begins the next number.
     const QString tekst = event->text();
     if (!toetsen && tekst.size() == 1 && tekst[0] >= '0' && tekst[0] <= '9') {
-        txtINR_->setFocus();
-        txtINR_->setText(tekst);
+        paneel_->txtINR().setFocus();
+        paneel_->txtINR().setText(tekst);
         return;
     }
     QMainWindow::keyPressEvent(event);
@@ -482,9 +284,8 @@ void frmTavelo::muiswiel_unhook() { qApp->removeEventFilter(this); }
 bool frmTavelo::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() == QEvent::MouseButtonRelease) { // chooses the slot and reads nothing: it is meant so
         const auto knop = static_cast<const QMouseEvent&>(*event).button();
-        const auto slot = std::ranges::find(btnRooster_, receiver);
-        if (slot != btnRooster_.end() && knop != Qt::LeftButton && knop != Qt::RightButton)
-            druk_slot(static_cast<int>(slot - btnRooster_.begin()), Muisknop::anders);
+        const std::optional<int> slot = paneel_->slot_van(receiver);
+        if (slot && knop != Qt::LeftButton && knop != Qt::RightButton) druk_slot(*slot, Muisknop::anders);
     }
     if (event->type() != QEvent::Wheel) return QMainWindow::eventFilter(receiver, event);
     const auto* besturing = qobject_cast<QWidget*>(receiver);
@@ -509,7 +310,7 @@ void frmTavelo::muiswiel(QWheelEvent& gebeurtenis) {
         return WielDoel{{r.left(), r.top(), r.right(), r.bottom()}, soort, besturing.isVisible()};
     };
     const std::array doelen = {doel(*grdRooster_, Besturing::grid), doel(*picDeelnemer_, Besturing::afbeelding),
-                               doel(*txtINR_, Besturing::invoer)};
+                               doel(paneel_->txtINR(), Besturing::invoer)};
     const QPoint punt = gebeurtenis.globalPosition().toPoint();
     const std::optional<std::size_t> gekozen = wiel_doel(doelen, punt.x(), punt.y());
     if (!gekozen) return;
@@ -518,7 +319,7 @@ void frmTavelo::muiswiel(QWheelEvent& gebeurtenis) {
         grid_muiswiel(programma_.grdRooster, rotatie, grdRooster_->top_laatste_rij(), twips(grdRooster_->height()));
         break;
     case Besturing::invoer:
-        if (txtINR_->isEnabled()) txtINR_->setFocus();
+        if (paneel_->txtINR().isEnabled()) paneel_->txtINR().setFocus();
         break;
     case Besturing::afbeelding:
     case Besturing::lijst:

@@ -11,23 +11,17 @@
 #include "ui/main/laad_tavelo.h"
 #include "ui/main/open_rooster.h"
 
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QTimer>
-#include <QToolButton>
 
-#include <array>
 #include <functional>
-
-class QGroupBox;
-class QHBoxLayout;
-class QLabel;
 
 namespace tavelo {
 
 class ElidedLabel;
+class Paneel;
+class RoosterDetails;
 class frmDeelnemer;
-
 class frmTavelo;
 
 // What the window needs besides the rules' surroundings. References outlive the window.
@@ -66,12 +60,6 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     void muiswiel_unhook() override;
 
     void bouw_bediening();
-    void bouw_nummervak(QHBoxLayout& rij);
-    void bouw_bladerknoppen(QHBoxLayout& rij);
-    void bouw_slotknoppen(QHBoxLayout& rij);
-    void bouw_snelknoppen(QHBoxLayout& rij);
-    void bouw_details();
-    void zet_tabvolgorde();
     void ontwerp_plaatsen();
 
     void kies_nummer(const QString& tekst);
@@ -82,7 +70,6 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     void wissel_deelnemer();
     void tik();
 
-    void toon_slots();
     void toon_omschrijving();
     void muiswiel(QWheelEvent& gebeurtenis);
 
@@ -91,30 +78,18 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     TaveloOmgeving omgeving_;
 
     QWidget* vlak_ = nullptr; // the inside of the window
-    QWidget* paneel_ = nullptr;
-    QLineEdit* txtINR_ = nullptr;
-    std::array<QToolButton*, 3> btnBlader_{};
-    std::array<QToolButton*, 2> btnRooster_{};
-    std::array<QToolButton*, 3> btnFast_{};
+    Paneel* paneel_ = nullptr;
     RoosterView* grdRooster_ = nullptr;
     ElidedLabel* lblRoosterOmschrijving_ = nullptr;
-    QGroupBox* frameRoosterinstellingen_ = nullptr;
-    struct Detail {
-        ElidedLabel* label;
-        QString kop;
-        std::string RubriekLabels::*tekst;
-    };
-    std::vector<Detail> details_;
+    RoosterDetails* frameRoosterinstellingen_ = nullptr;
     VertoningWidget* picDeelnemer_ = nullptr;
     QPointer<frmDeelnemer> deelnemer_;
     QTimer timer1_{this};
     QTimer groen_{this}; // runs while the description still has to be seen in green
 
     Plaatsen ontwerp_;
-    int label_links_ = 0;   // twips
-    int wieldraai_ = 0;     // eighths of a degree turned since the last notch
-    bool tikt_ = false;     // a tick is at work
-    bool schrijft_ = false; // the window writes its own number box
+    int wieldraai_ = 0; // eighths of a degree turned since the last notch
+    bool tikt_ = false; // a tick is at work
     bool afgesloten_ = false;
 };
 

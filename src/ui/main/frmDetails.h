@@ -1,0 +1,41 @@
+// The details of the open schedule beside the panel.
+#pragma once
+
+#include "schedule/record/rubriek_labels.h"
+
+#include <QGroupBox>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+class QLabel;
+
+namespace tavelo {
+
+class ElidedLabel;
+
+// Shows a text out of a file; a screen reader hears what it is about as well.
+void toon_tekst(QLabel& label, const QString& kop, std::string_view tekst);
+
+class RoosterDetails final : public QGroupBox {
+  public:
+    explicit RoosterDetails(QWidget* ouder);
+
+    void toon(const RubriekLabels& labels);
+
+    // Of the labels inside, in twips: their left, and their width at the present size of the frame.
+    [[nodiscard]] int label_links() const { return label_links_; }
+    void zet_labelbreedte(int breedte);
+
+  private:
+    struct Detail {
+        ElidedLabel* label;
+        QString kop;
+        std::string RubriekLabels::*tekst;
+    };
+    std::vector<Detail> details_;
+    int label_links_ = 0;
+};
+
+} // namespace tavelo

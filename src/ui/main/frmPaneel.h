@@ -1,0 +1,73 @@
+// The row of controls over the schedule: number box, stepping, the two slots, the quick buttons. It tells what the
+// operator did and shows what it is told.
+#pragma once
+
+#include "app/programma.h"
+#include "ui/main/huidige_combinatie.h"
+#include "ui/main/open_rooster.h"
+
+#include <QLineEdit>
+#include <QToolButton>
+
+#include <array>
+#include <functional>
+#include <optional>
+
+class QHBoxLayout;
+
+namespace tavelo {
+
+inline constexpr int marge = 8; // between the controls of the main window, in device-independent pixels
+inline constexpr int paneelhoogte = 84;
+
+// Widths on a screen with room, and on a small one, where the last columns of the grid are reached by scrolling.
+struct Breedten {
+    int grid; // with room: all columns and the scroll bar
+    int nummervak;
+    int bladerknop;
+    int slotknop;
+    int snelknop;
+    double nummerlabel; // its letter, relative to that of the desktop
+};
+[[nodiscard]] const Breedten& breedten(const QWidget& venster);
+
+// What the window does with an act of the operator.
+struct PaneelActies {
+    std::function<void(const QString& tekst)> typ_nummer;
+    std::function<void(Blader richting)> blader;
+    std::function<void(int slot, Muisknop knop)> slot;
+    std::function<void()> openen;
+    std::function<void()> instellingen;
+    std::function<void()> monitorvenster;
+};
+
+class Paneel final : public QWidget {
+  public:
+    Paneel(PaneelActies acties, QWidget* ouder);
+
+    [[nodiscard]] QLineEdit& txtINR() const { return *txtINR_; }
+    // The slot whose button this is.
+    [[nodiscard]] std::optional<int> slot_van(const QObject* knop) const;
+
+    // Shows the number box and the slots as the program has them; a text written here is not told as typed.
+    void toon(const Programma& programma);
+    void toon_gekozen_slot(int slot);
+
+    // The keys walk over the controls from left to right and then to `daarna`.
+    void zet_tabvolgorde(QWidget* daarna);
+
+  private:
+    void bouw_nummervak(QHBoxLayout& rij);
+    void bouw_bladerknoppen(QHBoxLayout& rij);
+    void bouw_slotknoppen(QHBoxLayout& rij);
+    void bouw_snelknoppen(QHBoxLayout& rij);
+
+    PaneelActies acties_;
+    QLineEdit* txtINR_ = nullptr;
+    std::array<QToolButton*, 3> btnBlader_{};
+    std::array<QToolButton*, 2> btnRooster_{};
+    std::array<QToolButton*, 3> btnFast_{};
+    bool schrijft_ = false; // the program writes the number box
+};
+
+} // namespace tavelo

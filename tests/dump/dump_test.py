@@ -146,6 +146,20 @@ class Rooster(DumpTest):
         self.assertEqual(labels["lblRoosterOmschrijving"], "Ring 2, Proef 1")
         self.assertEqual(labels["lblDagTijd"], "zaterdag 9:00 uur")
 
+    def test_het_log_noemt_regel_sleutel_en_reden_van_wat_is_overgeslagen(self):
+        bestand = self.schrijf("fout.rst", b"[Vendalo 3.4]\r\ndnr:9\r\ndnr:4001\tna:Jan\r\n"
+                               b"rnr:1\troms:Proef\trcom:40000\r\n")
+        regels = self.start("--log", bestand).stdout.decode("utf-8").splitlines()
+        self.assertIn("fout.rst", regels[0])
+        self.assertIn("melding: Vul rooster error 1: Overloop", regels)
+        self.assertEqual(regels[-3:], ["regel 2, dnr: regel zonder tab", "regel 3, dnr: nummer buiten 0 tot 4000",
+                                       "rubriek, rcom: Overloop"])
+
+    def test_het_log_zegt_dat_er_niets_is_overgeslagen(self):
+        for woorden in [("--log", self.bestand), (self.bestand, "--log", "--daarna", self.bestand)]:
+            self.assertEqual(self.start(*woorden).stdout.decode("utf-8").splitlines()[1:],
+                             ["Er is niets overgeslagen."])
+
     def test_wat_is_overgeslagen_staat_er_met_zijn_regel(self):
         bestand = self.schrijf("fout.rst", rooster([], {}, kop="singlesignin:99999\ndnr:5 zonder tab"))
         self.assertEqual([(o["regel"], o["sleutel"]) for o in self.dump(bestand)["overgeslagen"]],
@@ -291,6 +305,16 @@ class Blad(DumpTest):
 
 
 class Gebruik(DumpTest):
+    def test_help_legt_elke_optie_uit(self):
+        gedaan = self.start("--help")
+        self.assertEqual((gedaan.returncode, gedaan.stderr), (0, b""))
+        tekst = gedaan.stdout.decode("utf-8")
+        uitleg = tekst.partition("\n\n")[2]
+        for optie in ["--log", "--daarna", "--nummer", "--breedte", "--hoogte", "--instelling", "--maat", "--blad",
+                      "--land"]:
+            self.assertIn(optie, uitleg)
+        self.assertLessEqual(max(map(len, tekst.splitlines())), 110)
+
     def test_een_verkeerde_aanroep_wijst_de_weg(self):
         bestand = self.schrijf("a.rst", rooster([3], {3: "na:Jan"}))
         for woorden in ([], ["--nummer", "3"], [bestand, bestand], [bestand, "--nummer"], [bestand, "--onbekend", "1"],

@@ -153,6 +153,22 @@ void schrijf_teksten(JsonWriter& json, const std::vector<std::string>& teksten) 
     });
 }
 
+// What a helpdesk asks for first: which file it was taken for, what was shown, and what was left out. A record that is
+// read from more than one line has no line of its own.
+void schrijf_log(std::ostream& uit, const std::string& bijschrift, const Getuige& getuige) {
+    uit << bijschrift << '\n';
+    for (const std::string& bericht : getuige.berichten)
+        uit << "melding: " << bericht << '\n';
+    for (const Getuige::Overgeslagen& o : getuige.overgeslagen) {
+        if (o.regel != 0)
+            uit << "regel " << o.regel;
+        else
+            uit << "rubriek";
+        uit << ", " << o.sleutel << ": " << o.reden << '\n';
+    }
+    if (getuige.overgeslagen.empty()) uit << "Er is niets overgeslagen.\n";
+}
+
 } // namespace
 
 bool dump_rooster(const DumpVraag& vraag, const TextMeasure& meter, ExcelApplication& excel, std::ostream& uit) {
@@ -183,6 +199,10 @@ bool dump_rooster(const DumpVraag& vraag, const TextMeasure& meter, ExcelApplica
         toon_voorbeeld(bediening); // an empty number is no change of the box, but has its picture
     }
 
+    if (vraag.log) {
+        schrijf_log(uit, programma.bijschrift, getuige);
+        return true;
+    }
     JsonWriter json(uit);
     json.object([&] {
         json.key("kop").object([&] {

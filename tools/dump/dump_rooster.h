@@ -1,4 +1,5 @@
-// What the readers made of a schedule, and what the display makes of a combination, as one JSON object.
+// What the readers made of a schedule, and what the display makes of a combination, as one JSON object or
+// as the list of what was left out.
 #pragma once
 
 #include "basis/seams.h"
@@ -18,6 +19,7 @@ struct DumpVraag {
     std::optional<std::string> nummer;                             // typed into the number box
     double breedte = 19200;                                        // of the participant area, in twips
     double hoogte = 10800;
+    bool log = false; // a line for everything that was left out and why, in place of the JSON
 };
 
 // Goes the way of the program: choose the file, load it, re-read it, type the number. False when a setting is unknown.

@@ -5,7 +5,9 @@
 //     --breedte TWIPS --hoogte TWIPS                   this size
 //     --instelling sleutel=waarde                    with this setting; may be repeated
 //     --maat raster                                  measured by a fixed metric instead of this computer's fonts
+//     --log                                          in place of that, a line for all that was left out, and why
 //   tavelo-dump --blad N [--land en-US] BESTAND    a sheet of an Excel workbook as CSV
+//   tavelo-dump --help
 #include "dump_rooster.h"
 
 #include "basis/number.h"
@@ -78,7 +80,9 @@ std::optional<Vraag> lees_vraag(std::span<char*> woorden) {
     Vraag vraag;
     for (std::size_t i = 1; i < woorden.size(); ++i) {
         const std::string_view woord = woorden[i];
-        if (!woord.starts_with("--")) {
+        if (woord == "--log") {
+            vraag.rooster.log = true;
+        } else if (!woord.starts_with("--")) {
             if (!vraag.rooster.bestand.empty()) return std::nullopt;
             vraag.rooster.bestand = woord;
         } else if (i + 1 >= woorden.size() || !neem_optie(vraag, woord, woorden[++i])) {
@@ -110,18 +114,43 @@ int dump_blad(std::string_view bestand, std::size_t blad, std::string_view land)
     return sluit_uitvoer();
 }
 
-int toon_gebruik() {
-    std::cerr << "Gebruik: tavelo-dump [--daarna BESTAND2] [--nummer N --breedte TWIPS --hoogte TWIPS]\n"
-                 "                     [--instelling sleutel=waarde ...] [--maat raster] [--land nl-NL] BESTAND\n"
-                 "         tavelo-dump --blad N [--land nl-NL] BESTAND\n";
+constexpr std::string_view gebruik =
+    "Gebruik: tavelo-dump [--log] [--daarna BESTAND2] [--nummer N --breedte TWIPS --hoogte TWIPS]\n"
+    "                     [--instelling sleutel=waarde ...] [--maat raster] [--land nl-NL] BESTAND\n"
+    "         tavelo-dump --blad N [--land nl-NL] BESTAND\n"
+    "         tavelo-dump --help\n";
+
+constexpr std::string_view uitleg =
+    "\n"
+    "Laat zien wat Tavelo uit een bestand leest: een rooster (.rst) of een startlijst uit Excel.\n"
+    "\n"
+    "  BESTAND                      alles wat het programma ervan maakt, als JSON\n"
+    "  --log                        in plaats daarvan: wat is overgeslagen, met regel, sleutel en reden\n"
+    "  --daarna BESTAND2            lees daarna dit bestand, zoals het programma een herschreven rooster\n"
+    "                               samenvoegt, en noem wat er wijzigde\n"
+    "  --nummer N                   met de weergave van deze combinatie\n"
+    "  --breedte, --hoogte TWIPS    in een vlak van deze maat (1440 twips is een inch; 19200 bij 10800)\n"
+    "  --instelling sleutel=waarde  met deze instelling; mag vaker\n"
+    "  --maat raster                gemeten met een vaste maat in plaats van de lettertypen van deze computer\n"
+    "  --blad N                     werkblad N van een werkmap, als CSV\n"
+    "  --land nl-NL                 getallen en datums zoals in dit land\n";
+
+int weiger() {
+    std::cerr << gebruik;
     return wrong_use;
+}
+
+int help() {
+    std::cout << gebruik << uitleg;
+    return sluit_uitvoer();
 }
 
 } // namespace
 
 int main(int aantal, char** woorden) {
+    if (aantal == 2 && std::string_view(woorden[1]) == "--help") return help();
     const std::optional<Vraag> vraag = lees_vraag(std::span(woorden, static_cast<std::size_t>(aantal)));
-    if (!vraag) return toon_gebruik();
+    if (!vraag) return weiger();
     if (vraag->blad) return dump_blad(vraag->rooster.bestand, *vraag->blad, vraag->land);
 
     // Without a number nothing is composed, so nothing is measured.
@@ -132,5 +161,5 @@ int main(int aantal, char** woorden) {
         return wrong_use;
     }
     const std::unique_ptr<ExcelApplication> excel = builtin_excel(locale_named(vraag->land));
-    return dump_rooster(vraag->rooster, *meter, *excel, std::cout) ? sluit_uitvoer() : toon_gebruik();
+    return dump_rooster(vraag->rooster, *meter, *excel, std::cout) ? sluit_uitvoer() : weiger();
 }

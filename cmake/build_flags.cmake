@@ -1,9 +1,5 @@
 # One interface target carries the warnings and the sanitizers of every target of the project.
 add_library(tavelo_flags INTERFACE)
-target_compile_definitions(tavelo_flags INTERFACE
-    TAVELO_VERSION_MAJOR=${PROJECT_VERSION_MAJOR}
-    TAVELO_VERSION_MINOR=${PROJECT_VERSION_MINOR}
-    TAVELO_VERSION_REVISION=${PROJECT_VERSION_PATCH})
 
 if(MSVC)
     target_compile_options(tavelo_flags INTERFACE /W4 /WX /utf-8 /permissive-)

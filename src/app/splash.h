@@ -20,7 +20,7 @@ class Vervaging {
     std::int16_t niveau_ = -1;
 };
 
-// "versie 3.5.1034"
+// "versie 3.14.159" of 3, 14 and 159.
 [[nodiscard]] std::string versie_tekst(int hoofdversie, int subversie, int revisie);
 
 } // namespace tavelo

@@ -26,7 +26,7 @@ TEST(FrmIntro, begint_doorzichtig_en_wordt_helder_voor_hij_vanzelf_sluit) {
 
 TEST(FrmIntro, toont_de_versie_en_het_plaatje_vult_het_venster) {
     frmIntro intro;
-    EXPECT_EQ(intro.findChild<QLabel*>("lblVersie")->text(), "versie 3.5.1034");
+    EXPECT_EQ(intro.findChild<QLabel*>("lblVersie")->text(), "versie " TAVELO_VERSION);
     auto* plaatje = intro.findChild<QWidget*>("Image1");
     ASSERT_NE(plaatje, nullptr);
     EXPECT_EQ(plaatje->geometry(), intro.rect());

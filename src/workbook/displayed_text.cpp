@@ -2,15 +2,18 @@
 
 #include <array>
 #include <cstddef>
+#include <tuple>
 
 namespace tavelo {
 
 namespace {
 
 // Locale::errors has them in this order.
-constexpr std::array error_order{CellError::null,          CellError::division,    CellError::value,
-                                 CellError::reference,     CellError::name,        CellError::number,
-                                 CellError::not_available, CellError::getting_data};
+constexpr std::array error_order{
+    CellError::null,    CellError::division,      CellError::value,        CellError::reference, CellError::name,
+    CellError::number,  CellError::not_available, CellError::getting_data, CellError::spill,     CellError::connect,
+    CellError::blocked, CellError::field,         CellError::calc};
+static_assert(error_order.size() == std::tuple_size_v<decltype(Locale::errors)>);
 
 std::string error_text(double code, const Locale& locale) {
     for (std::size_t i = 0; i < error_order.size(); ++i) {
@@ -45,7 +48,7 @@ const NumberFormat& DisplayedTexts::format_of(const Cell& cell) {
     if (cell.format >= codes.size()) return general_;
     if (formats_.size() <= cell.format) formats_.resize(codes.size());
     auto& format = formats_[cell.format];
-    if (!format) format.emplace(codes[cell.format]);
+    if (!format) format.emplace(code_in_locale(codes[cell.format], locale_));
     return *format;
 }
 

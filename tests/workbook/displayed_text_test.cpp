@@ -59,9 +59,10 @@ TEST(GetoondeTekst, teksten_en_booleans_gaan_door_het_tekstdeel_van_de_opmaak) {
 
 TEST(GetoondeTekst, fouten_nooit_en_elk_heeft_zijn_woord) {
     const Stored book;
-    constexpr std::array codes{0x00, 0x07, 0x0F, 0x17, 0x1D, 0x24, 0x2A, 0x2B};
-    constexpr std::array<std::string_view, 8> words{"#NULL!", "#DIV/0!", "#VALUE!", "#REF!",
-                                                    "#NAME?", "#NUM!",   "#N/A",    "#GETTING_DATA"};
+    constexpr std::array codes{0x00, 0x07, 0x0F, 0x17, 0x1D, 0x24, 0x2A, 0x2B, 0x2D, 0x2E, 0x2F, 0x31, 0x32};
+    constexpr std::array<std::string_view, 13> words{"#NULL!",    "#DIV/0!", "#VALUE!",       "#REF!",   "#NAME?",
+                                                     "#NUM!",     "#N/A",    "#GETTING_DATA", "#SPILL!", "#CONNECT!",
+                                                     "#BLOCKED!", "#FIELD!", "#CALC!"};
     for (std::size_t i = 0; i < codes.size(); ++i)
         EXPECT_EQ(DisplayedTexts(book, american).of(cell(CellKind::error, codes[i], 2)), words[i]);
     EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::error, 0x0F)), "#WAARDE!");
@@ -73,6 +74,14 @@ TEST(GetoondeTekst, een_tekst_of_opmaak_die_er_niet_is_schaadt_niet) {
     text.text = 99;
     EXPECT_EQ(DisplayedTexts(book, dutch).of(text), "");
     EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 1.5, 99)), "1,5");
+}
+
+TEST(GetoondeTekst, ingebouwde_bedragen_volgen_het_land) {
+    Stored book;
+    book.codes = {"", std::string(builtin_format(37)), std::string(builtin_format(44))};
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, -1234, 1)), "-1.234");
+    EXPECT_EQ(DisplayedTexts(book, american).of(cell(CellKind::number, -1234, 1)), "(1,234)");
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 12.5, 2)), " € 12,50 ");
 }
 
 } // namespace

@@ -31,6 +31,12 @@ enum class CellError : std::uint8_t {
     number = 0x24,
     not_available = 0x2A,
     getting_data = 0x2B,
+    // Newer than .xls: the numbers by which Excel's object model knows them, less 2000.
+    spill = 45,
+    connect = 46,
+    blocked = 47,
+    field = 49,
+    calc = 50,
 };
 
 struct Cell {

@@ -8,8 +8,15 @@ constexpr std::string_view short_date = "[$-x-shortdate]m/d/yy";
 constexpr std::string_view short_date_and_time = "[$-x-shortdatetime]m/d/yy h:mm";
 constexpr std::string_view short_time = "[$-x-shorttime]h:mm";
 constexpr std::string_view long_time = "[$-x-longtime]h:mm:ss";
+constexpr std::string_view amount_tag = "[$-x-amount";
 
 } // namespace
+
+std::string_view code_in_locale(std::string_view code, const Locale& locale) {
+    if (!code.starts_with(amount_tag) || code.size() == amount_tag.size()) return code;
+    const auto place = static_cast<std::size_t>(code[amount_tag.size()] - 'a');
+    return place < locale.amounts.size() ? locale.amounts[place] : code;
+}
 
 std::string_view builtin_format(unsigned id) {
     switch (id) {
@@ -25,14 +32,15 @@ std::string_view builtin_format(unsigned id) {
     case 4:
     case 62:
         return "#,##0.00";
+    // What Locale::amounts has at the place that the tag names.
     case 5:
-        return R"("$"#,##0_);\("$"#,##0\))";
+        return "[$-x-amounta]General";
     case 6:
-        return R"("$"#,##0_);[Red]\("$"#,##0\))";
+        return "[$-x-amountb]General";
     case 7:
-        return R"("$"#,##0.00_);\("$"#,##0.00\))";
+        return "[$-x-amountc]General";
     case 8:
-        return R"("$"#,##0.00_);[Red]\("$"#,##0.00\))";
+        return "[$-x-amountd]General";
     case 9:
     case 67:
         return "0%";
@@ -95,21 +103,21 @@ std::string_view builtin_format(unsigned id) {
     case 78:
         return short_date_and_time;
     case 37:
-        return R"(#,##0_);\(#,##0\))";
+        return "[$-x-amounte]General";
     case 38:
-        return R"(#,##0_);[Red]\(#,##0\))";
+        return "[$-x-amountf]General";
     case 39:
-        return R"(#,##0.00_);\(#,##0.00\))";
+        return "[$-x-amountg]General";
     case 40:
-        return R"(#,##0.00_);[Red]\(#,##0.00\))";
+        return "[$-x-amounth]General";
     case 41:
-        return R"(_(* #,##0_);_(* \(#,##0\);_(* "-"_);_(@_))";
+        return "[$-x-amounti]General";
     case 42:
-        return R"(_("$"* #,##0_);_("$"* \(#,##0\);_("$"* "-"_);_(@_))";
+        return "[$-x-amountj]General";
     case 43:
-        return R"(_(* #,##0.00_);_(* \(#,##0.00\);_(* "-"??_);_(@_))";
+        return "[$-x-amountk]General";
     case 44:
-        return R"(_("$"* #,##0.00_);_("$"* \(#,##0.00\);_("$"* "-"??_);_(@_))";
+        return "[$-x-amountl]General";
     case 45:
     case 79:
         return "mm:ss";

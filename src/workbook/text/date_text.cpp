@@ -34,6 +34,25 @@ CalendarDay calendar_day(std::int64_t serial) {
             weekday};
 }
 
+// In the Islamic calendar as Microsoft counts it: 30 years of 12 months with 30 and 29 days by turns, the last month a
+// day longer in 11 of them, from 15 July 622 (Julian) on. Day 0 is shown as day 1.
+CalendarDay hijri_day(std::int64_t serial) {
+    constexpr std::int64_t days_before_1900 = 466'581; // from the first day of the calendar to 31 December 1899
+    constexpr std::int64_t days_of_cycle = 10'631;
+    constexpr std::int64_t leap_day_of_1900 = 60;
+    const std::int64_t day = days_before_1900 + std::max<std::int64_t>(serial, 1) - (serial > leap_day_of_1900 ? 1 : 0);
+    std::int64_t rest = day % days_of_cycle;
+    int year = 1;
+    const auto days_of = [](int of_year) { return (11 * of_year + 14) % 30 < 11 ? 355 : 354; };
+    for (; rest >= days_of(year); ++year)
+        rest -= days_of(year);
+    unsigned month = 1;
+    for (; month < 12 && rest >= 29 + month % 2; ++month)
+        rest -= 29 + month % 2;
+    return {static_cast<int>(day / days_of_cycle) * 30 + year, month, static_cast<unsigned>(rest) + 1,
+            calendar_day(serial).weekday};
+}
+
 std::int64_t power_of_ten(std::uint32_t exponent) {
     std::int64_t power = 1;
     for (; exponent > 0; --exponent)
@@ -84,7 +103,7 @@ class DateWriter {
             ++days;
         }
         if (days >= days_beyond_year_9999 - shift) return false;
-        day_ = calendar_day(days + shift);
+        day_ = section_.hijri ? hijri_day(days + shift) : calendar_day(days + shift);
         second_of_day_ = std::min(ticks / ticks_per_second, seconds_per_day - 1);
         subsecond_ = ticks % ticks_per_second;
         elapsed_seconds_ = days * seconds_per_day + second_of_day_;
@@ -161,10 +180,10 @@ class DateWriter {
 
     void add_month(std::string& out, std::uint32_t letters) const {
         const std::size_t month = day_.month - 1;
-        switch (letters) {
+        switch (section_.hijri ? std::min(letters, 2U) : letters) {
         case 1:
         case 2:
-            add_number(out, day_.month, letters);
+            add_number(out, day_.month, std::min(letters, 2U));
             break;
         case 3:
             out += names_.short_months[month];

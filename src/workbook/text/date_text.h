@@ -1,4 +1,5 @@
-// Sections of a number format that show dates and times.
+// Sections of a number format that show dates and times. Behind B2 a date is that of the Islamic calendar, whose months
+// have no names here: a month in letters shows its number.
 #pragma once
 
 #include "workbook/text/format_code.h"

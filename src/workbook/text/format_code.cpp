@@ -65,7 +65,35 @@ void settle_minutes(std::vector<FormatPiece>& pieces) {
     if (undecided != nullptr) undecided->kind = PieceKind::month;
 }
 
-void settle_date(FormatSection& section) {
+int clock_unit(PieceKind kind) {
+    switch (kind) {
+    case PieceKind::hour:
+    case PieceKind::elapsed_hours:
+        return 3;
+    case PieceKind::minute:
+    case PieceKind::elapsed_minutes:
+        return 2;
+    case PieceKind::second:
+    case PieceKind::elapsed_seconds:
+        return 1;
+    default:
+        return 0;
+    }
+}
+
+// An elapsed time counts everything above it, so nothing as large may stand beside it.
+bool clock_makes_sense(const std::vector<FormatPiece>& pieces) {
+    const auto elapsed = std::ranges::find_if(pieces, is_elapsed, &FormatPiece::kind);
+    if (elapsed == pieces.end()) return true;
+    return std::ranges::none_of(pieces, [&](const FormatPiece& piece) {
+        if (&piece == &*elapsed) return false;
+        return is_elapsed(piece.kind) || clock_unit(piece.kind) >= clock_unit(elapsed->kind);
+    });
+}
+
+// False for what Excel refuses.
+bool settle_date(FormatSection& section) {
+    bool accepted = true;
     section.kind = SectionKind::date;
     settle_minutes(section.pieces);
     const std::vector<FormatPiece> raw = std::exchange(section.pieces, {});
@@ -105,6 +133,8 @@ void settle_date(FormatSection& section) {
             break;
         }
         case PieceKind::digit:
+            accepted = false;
+            break;
         case PieceKind::literal_digit:
             section.add_literal(std::string_view(&piece.symbol, 1));
             break;
@@ -125,6 +155,7 @@ void settle_date(FormatSection& section) {
             section.pieces.push_back(piece);
         }
     }
+    return accepted && clock_makes_sense(section.pieces);
 }
 
 // Gives every digit, point and comma of a number its place. Works from the left, with a look ahead for what ends where.
@@ -265,7 +296,8 @@ class NumberSettler {
     // Between digits of the integer part a comma asks for groups of thousands, behind the last digit it divides by a
     // thousand, away from digits it is a comma.
     void settle_commas() {
-        const bool behind_digit = at_ > 0 && is_digit_like(raw_[at_ - 1]);
+        const bool behind_point = at_ > 1 && at_ == point_ + 1; // "0.," scales as "0," does
+        const bool behind_digit = at_ > 0 && is_digit_like(raw_[at_ - (behind_point ? 2 : 1)]);
         const std::size_t begin = at_;
         while (at_ < raw_.size() && raw_[at_].kind == PieceKind::comma)
             ++at_;
@@ -311,11 +343,27 @@ bool shows_date(const FormatSection& section) {
            !has([](PieceKind kind) { return kind == PieceKind::digit || kind == PieceKind::general; });
 }
 
-void settle(FormatSection& section) {
-    if (shows_date(section))
-        settle_date(section);
-    else
-        NumberSettler(section).settle();
+// False for what Excel refuses.
+bool settle(FormatSection& section) {
+    if (shows_date(section)) return settle_date(section);
+    NumberSettler(section).settle();
+    return true;
+}
+
+// Nothing for a code that Excel refuses.
+std::optional<FormatCode> parse(std::string_view code) {
+    FormatCode parsed;
+    parsed.numbers = cut_format_code(code);
+    if (parsed.numbers.empty() || parsed.numbers.size() > most_sections) return std::nullopt;
+    auto& last = parsed.numbers.back();
+    if (parsed.numbers.size() == most_sections || last.has_text_piece) {
+        parsed.text = std::move(last);
+        parsed.numbers.pop_back();
+        settle(*parsed.text); // no value is shown in it, so nothing of it is refused
+    }
+    for (FormatSection& section : parsed.numbers)
+        if (!settle(section)) return std::nullopt;
+    return parsed;
 }
 
 } // namespace
@@ -363,17 +411,9 @@ bool Condition::only_negative() const {
 }
 
 FormatCode parse_format_code(std::string_view code) {
-    FormatCode parsed;
-    parsed.numbers = cut_format_code(code.empty() ? "General" : code);
-    auto& last = parsed.numbers.back();
-    if (parsed.numbers.size() == most_sections || last.has_text_piece) {
-        parsed.text = std::move(last);
-        parsed.numbers.pop_back();
-        settle(*parsed.text);
-    }
-    for (FormatSection& section : parsed.numbers)
-        settle(section);
-    return parsed;
+    constexpr std::string_view general = "General";
+    auto parsed = parse(code.empty() ? general : code);
+    return parsed ? *std::move(parsed) : parse(general).value();
 }
 
 } // namespace tavelo

@@ -1,4 +1,18 @@
 // A number format code taken apart: its sections, and of each section the pieces in the order in which they are shown.
+//
+// A code that Excel refuses shows as General. Microsoft's published grammar ([MS-OE376] 2.1.739, [MS-XLS] 2.4.126) and
+// what others saw Excel refuse name more than files hold; these are taken as refused:
+//
+//     refused                                            as in
+//     the letter n, in either case, outside quotes       Standaard, 0 punten
+//     two elapsed times in one section                   [h]:[mm]
+//     an elapsed time beside a part of the clock that    HH[M], HH[MM], [h] h
+//         is as large or larger
+//     digit places beside parts of a date, but for       0 d, yyyy #
+//         the fraction of a second
+//     more than four sections                            0;0;0;@;0
+//
+// Colours and conditions without sense, quotes that do not end and further letters are shown as well as they can be.
 #pragma once
 
 #include "workbook/text/numerals.h"
@@ -97,6 +111,7 @@ struct FormatSection {
     std::size_t denominator_places = 0;
     std::uint32_t fixed_denominator = 0; // 0: none
     // Dates
+    bool hijri = false; // B2
     bool twelve_hours = false;
     bool shows_time = false;
     bool only_elapsed = false; // no calendar and no clock, so it can show a negative value

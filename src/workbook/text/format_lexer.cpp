@@ -127,6 +127,7 @@ class Lexer {
 
     std::vector<FormatSection> sections() {
         std::vector<FormatSection> found = cut();
+        if (refused_) return {};
         if (chinese_) return found;
         for (FormatSection& section : found)
             section.numerals = Numerals::western;
@@ -138,7 +139,7 @@ class Lexer {
         std::vector<FormatSection> found(1);
         while (!rest_.empty()) {
             if (rest_.front() == ';') {
-                if (found.size() == most_sections) break;
+                if (found.size() > most_sections) break;
                 take(1);
                 found.emplace_back();
                 digit_seen_ = false;
@@ -179,8 +180,14 @@ class Lexer {
             if (const auto kind = kind_of_symbol(first))
                 add(section, *kind, first);
             else if (!read_word(section))
-                section.add_literal(take(code_point_length(rest_)));
+                read_character(section);
         }
+    }
+
+    // Shown as it is, without quotes.
+    void read_character(FormatSection& section) {
+        refused_ = refused_ || lower(rest_.front()) == 'n';
+        section.add_literal(take(code_point_length(rest_)));
     }
 
     void add(FormatSection& section, PieceKind kind, char symbol = 0, std::size_t length = 1) {
@@ -269,10 +276,12 @@ class Lexer {
                 section.add_literal(take(run));
             break;
         case 'b':
-            if (run == 1 && !digit_seen_ && (after == '1' || after == '2')) // chooses a calendar
+            if (run == 1 && !digit_seen_ && (after == '1' || after == '2')) { // chooses a calendar
+                section.hijri = after == '2';
                 take(2);
-            else
+            } else {
                 add(section, PieceKind::era_year, rest_.front(), run);
+            }
             break;
         case 'e':
             if (digit_seen_ && run == 1 && (after == '+' || after == '-'))
@@ -295,6 +304,7 @@ class Lexer {
     std::string_view rest_;
     bool digit_seen_ = false; // in this section
     bool closing_brackets_left_ = true;
+    bool refused_ = false;
     bool chinese_ = false; // other languages of the numeral tags are not known here
 };
 

@@ -10,10 +10,10 @@
 
 namespace tavelo {
 
-// What follows further sections is left out.
+// One more is cut off and kept, so that it is seen that there are too many.
 inline constexpr std::size_t most_sections = 4;
 
-// One section at least. An empty code gives one that is empty.
+// One section at least; an empty code gives one that is empty. None for a code with a letter that Excel refuses.
 [[nodiscard]] std::vector<FormatSection> cut_format_code(std::string_view code);
 
 } // namespace tavelo

@@ -4,6 +4,69 @@ namespace tavelo {
 
 namespace {
 
+// Sources of the tables: for the United States [MS-OE376] 2.1.739; for the other countries the order of sign, symbol
+// and number in the Common Locale Data Repository, which Windows has as well since 2009, and the padding of the tables
+// in LibreOffice's import of workbooks. Codes that Dutch and German Excel store in files agree. Belgium writes amounts
+// as the Netherlands do, France as Germany.
+constexpr AmountFormats american_amounts = {
+    R"("$"#,##0_);\("$"#,##0\))",
+    R"("$"#,##0_);[Red]\("$"#,##0\))",
+    R"("$"#,##0.00_);\("$"#,##0.00\))",
+    R"("$"#,##0.00_);[Red]\("$"#,##0.00\))",
+    R"(#,##0_);\(#,##0\))",
+    R"(#,##0_);[Red]\(#,##0\))",
+    R"(#,##0.00_);\(#,##0.00\))",
+    R"(#,##0.00_);[Red]\(#,##0.00\))",
+    R"(_(* #,##0_);_(* \(#,##0\);_(* "-"_);_(@_))",
+    R"(_("$"* #,##0_);_("$"* \(#,##0\);_("$"* "-"_);_(@_))",
+    R"(_(* #,##0.00_);_(* \(#,##0.00\);_(* "-"??_);_(@_))",
+    R"(_("$"* #,##0.00_);_("$"* \(#,##0.00\);_("$"* "-"??_);_(@_))",
+};
+constexpr AmountFormats british_amounts = {
+    R"("£"#,##0;\-"£"#,##0)",
+    R"("£"#,##0;[Red]\-"£"#,##0)",
+    R"("£"#,##0.00;\-"£"#,##0.00)",
+    R"("£"#,##0.00;[Red]\-"£"#,##0.00)",
+    R"(#,##0;\-#,##0)",
+    R"(#,##0;[Red]\-#,##0)",
+    R"(#,##0.00;\-#,##0.00)",
+    R"(#,##0.00;[Red]\-#,##0.00)",
+    R"(_-* #,##0_-;\-* #,##0_-;_-* "-"_-;_-@_-)",
+    R"(_-"£"* #,##0_-;\-"£"* #,##0_-;_-"£"* "-"_-;_-@_-)",
+    R"(_-* #,##0.00_-;\-* #,##0.00_-;_-* "-"??_-;_-@_-)",
+    R"(_-"£"* #,##0.00_-;\-"£"* #,##0.00_-;_-"£"* "-"??_-;_-@_-)",
+};
+constexpr AmountFormats euro_in_front = {
+    R"("€"\ #,##0;"€"\ \-#,##0)",
+    R"("€"\ #,##0;[Red]"€"\ \-#,##0)",
+    R"("€"\ #,##0.00;"€"\ \-#,##0.00)",
+    R"("€"\ #,##0.00;[Red]"€"\ \-#,##0.00)",
+    R"(#,##0;\-#,##0)",
+    R"(#,##0;[Red]\-#,##0)",
+    R"(#,##0.00;\-#,##0.00)",
+    R"(#,##0.00;[Red]\-#,##0.00)",
+    R"(_ * #,##0_ ;_ * \-#,##0_ ;_ * "-"_ ;_ @_ )",
+    R"(_ "€"\ * #,##0_ ;_ "€"\ * \-#,##0_ ;_ "€"\ * "-"_ ;_ @_ )",
+    R"(_ * #,##0.00_ ;_ * \-#,##0.00_ ;_ * "-"??_ ;_ @_ )",
+    R"(_ "€"\ * #,##0.00_ ;_ "€"\ * \-#,##0.00_ ;_ "€"\ * "-"??_ ;_ @_ )",
+};
+constexpr AmountFormats euro_behind = {
+    R"(#,##0\ "€";\-#,##0\ "€")",
+    R"(#,##0\ "€";[Red]\-#,##0\ "€")",
+    R"(#,##0.00\ "€";\-#,##0.00\ "€")",
+    R"(#,##0.00\ "€";[Red]\-#,##0.00\ "€")",
+    R"(#,##0\ _€;\-#,##0\ _€)",
+    R"(#,##0\ _€;[Red]\-#,##0\ _€)",
+    R"(#,##0.00\ _€;\-#,##0.00\ _€)",
+    R"(#,##0.00\ _€;[Red]\-#,##0.00\ _€)",
+    R"(_-* #,##0\ _€_-;\-* #,##0\ _€_-;_-* "-"\ _€_-;_-@_-)",
+    R"(_-* #,##0\ "€"_-;\-* #,##0\ "€"_-;_-* "-"\ "€"_-;_-@_-)",
+    R"(_-* #,##0.00\ _€_-;\-* #,##0.00\ _€_-;_-* "-"??\ _€_-;_-@_-)",
+    R"(_-* #,##0.00\ "€"_-;\-* #,##0.00\ "€"_-;_-* "-"??\ "€"_-;_-@_-)",
+};
+
+// The words of the errors that came with Excel 365: Dutch #OVERLOPEN! and #BEREKENEN! as published; for the other three
+// the words of the same list. France's words for the second and the third were not found: they stay English.
 Locale dutch() {
     return {
         .name = "nl-NL",
@@ -24,7 +87,9 @@ Locale dutch() {
         .long_time = "hh:mm:ss",
         .true_word = "WAAR",
         .false_word = "ONWAAR",
-        .errors = {"#LEEG!", "#DEEL/0!", "#WAARDE!", "#VERW!", "#NAAM?", "#GETAL!", "#N/B", "#GEGEVENS_OPHALEN"},
+        .errors = {"#LEEG!", "#DEEL/0!", "#WAARDE!", "#VERW!", "#NAAM?", "#GETAL!", "#N/B", "#GEGEVENS_OPHALEN",
+                   "#OVERLOPEN!", "#VERBINDEN!", "#GEBLOKKEERD!", "#VELD!", "#BEREKENEN!"},
+        .amounts = euro_in_front,
     };
 }
 
@@ -49,7 +114,9 @@ Locale american() {
         .long_time = "hh:mm:ss",
         .true_word = "TRUE",
         .false_word = "FALSE",
-        .errors = {"#NULL!", "#DIV/0!", "#VALUE!", "#REF!", "#NAME?", "#NUM!", "#N/A", "#GETTING_DATA"},
+        .errors = {"#NULL!", "#DIV/0!", "#VALUE!", "#REF!", "#NAME?", "#NUM!", "#N/A", "#GETTING_DATA", "#SPILL!",
+                   "#CONNECT!", "#BLOCKED!", "#FIELD!", "#CALC!"},
+        .amounts = american_amounts,
     };
 }
 
@@ -66,6 +133,7 @@ Locale british() {
     locale.name = "en-GB";
     locale.short_date = "dd/mm/yyyy";
     locale.long_date = "dd mmmm yyyy";
+    locale.amounts = british_amounts;
     return locale;
 }
 
@@ -89,7 +157,9 @@ Locale german() {
         .long_time = "hh:mm:ss",
         .true_word = "WAHR",
         .false_word = "FALSCH",
-        .errors = {"#NULL!", "#DIV/0!", "#WERT!", "#BEZUG!", "#NAME?", "#ZAHL!", "#NV", "#DATEN_ABRUFEN"},
+        .errors = {"#NULL!", "#DIV/0!", "#WERT!", "#BEZUG!", "#NAME?", "#ZAHL!", "#NV", "#DATEN_ABRUFEN", "#ÜBERLAUF!",
+                   "#VERBINDEN!", "#BLOCKIERT!", "#FELD!", "#KALK!"},
+        .amounts = euro_behind,
     };
 }
 
@@ -114,7 +184,9 @@ Locale french() {
         .long_time = "hh:mm:ss",
         .true_word = "VRAI",
         .false_word = "FAUX",
-        .errors = {"#NUL!", "#DIV/0!", "#VALEUR!", "#REF!", "#NOM?", "#NOMBRE!", "#N/A", "#OBTENTION_DONNEES"},
+        .errors = {"#NUL!", "#DIV/0!", "#VALEUR!", "#REF!", "#NOM?", "#NOMBRE!", "#N/A", "#OBTENTION_DONNEES",
+                   "#PROPAGATION!", "#CONNECT!", "#BLOCKED!", "#CHAMP!", "#CALC!"},
+        .amounts = euro_behind,
     };
 }
 

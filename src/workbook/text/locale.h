@@ -8,6 +8,10 @@
 
 namespace tavelo {
 
+// The codes of the built-in formats 5 to 8, 37 to 40 and 41 to 44, in this order. Excel takes them from the regional
+// settings, as it does the dates.
+using AmountFormats = std::array<std::string_view, 12>;
+
 struct Locale {
     std::string name; // "nl-NL"
     std::string decimal_separator;
@@ -26,8 +30,10 @@ struct Locale {
     std::string long_time;  // for [$-F400] and built-in 21
     std::string true_word;
     std::string false_word;
-    // Error values in the order #NULL! #DIV/0! #VALUE! #REF! #NAME? #NUM! #N/A #GETTING_DATA
-    std::array<std::string, 8> errors;
+    // Error values in the order #NULL! #DIV/0! #VALUE! #REF! #NAME? #NUM! #N/A #GETTING_DATA #SPILL! #CONNECT!
+    // #BLOCKED! #FIELD! #CALC!
+    std::array<std::string, 13> errors;
+    AmountFormats amounts;
 };
 
 // For a country that is not known (de-AT) another one of the same language, for an unknown language nl-NL: this is a

@@ -97,6 +97,7 @@ NumberFormat& NumberFormat::operator=(NumberFormat&&) noexcept = default;
 NumberFormat::~NumberFormat() = default;
 
 std::string NumberFormat::show_number(double value, DateSystem dates, const Locale& locale) const {
+    // Excel writes no such number; of a quiet NaN it would show the bits as 2.69653970229347E+308, which helps nobody.
     if (!std::isfinite(value)) {
         constexpr std::size_t number_error = 5;
         return locale.errors[number_error];

@@ -31,7 +31,11 @@ class NumberFormat {
 };
 
 // The code of a built-in format id; General for an id that has none. The ids that follow the system's dates and times
-// (14, 20 to 22, the East Asian ones) give a code with a tag of our own, which shows what the Locale has for them.
+// (14, 20 to 22, the East Asian ones) and its amounts (5 to 8, 37 to 44) give a code with a tag of our own, which
+// stands for what the Locale has for them.
 [[nodiscard]] std::string_view builtin_format(unsigned id);
+
+// `code`, or the code that the locale has where `code` is the tag of an amount.
+[[nodiscard]] std::string_view code_in_locale(std::string_view code, const Locale& locale);
 
 } // namespace tavelo

@@ -1,5 +1,6 @@
 #include "workbook/text/number_text.h"
 
+#include "basis/text.h"
 #include "workbook/text/decimal.h"
 
 #include <algorithm>
@@ -252,40 +253,37 @@ class FractionWriter {
         const std::string_view separator = section_.grouped ? std::string_view(locale_.thousands_separator) : "";
         PlaceFiller integer(whole_ == 0 && !blank_ ? "" : digits_or_zero(whole_), section_.integer_places, separator);
         PlaceFiller numerator(digits_or_zero(ratio_.numerator), section_.numerator_places);
-        std::string denominator = denominator_digits();
+        const std::string denominator = denominator_digits();
+        const auto [blank_begin, blank_end] = blank_room();
         std::string out;
-        bool in_fraction = false;
         std::size_t denominators_out = 0;
-        for (const FormatPiece& piece : section_.pieces) {
-            in_fraction = in_fraction || piece.kind == PieceKind::numerator_digit;
-            const bool blank = in_fraction && blank_;
+        for (std::size_t at = 0; at < section_.pieces.size(); ++at) {
+            const FormatPiece& piece = section_.pieces[at];
+            if (at >= blank_begin && at < blank_end) {
+                out.append(width_of(piece), ' ');
+                continue;
+            }
             switch (piece.kind) {
             case PieceKind::integer_digit:
                 integer.fill(out, piece.symbol);
                 break;
             case PieceKind::numerator_digit:
-                if (blank)
-                    out += ' ';
-                else
-                    numerator.fill(out, piece.symbol);
+                numerator.fill(out, piece.symbol);
                 break;
             case PieceKind::fraction_bar:
-                out += blank ? ' ' : '/';
+                out += '/';
                 break;
             case PieceKind::denominator_digit:
-                ++denominators_out;
-                if (blank)
-                    out += ' ';
-                else if (denominators_out <= denominator.size())
+                if (++denominators_out <= denominator.size())
                     out += denominator[denominators_out - 1];
+                else if (denominators_out > section_.denominator_places) // behind the denominator # is a zero too
+                    out += piece.symbol == '?' ? ' ' : '0';
                 else
                     add_padding(out, piece.symbol);
                 break;
-            case PieceKind::fixed_denominator: {
-                const std::string number = std::to_string(piece.count);
-                out += blank ? std::string(number.size(), ' ') : number;
+            case PieceKind::fixed_denominator:
+                out += std::to_string(piece.count);
                 break;
-            }
             default:
                 add_plain_piece(out, section_, piece, size_, locale_);
             }
@@ -317,6 +315,29 @@ class FractionWriter {
                std::none_of(section_.pieces.begin(), section_.pieces.end(), [](const FormatPiece& piece) {
                    return piece.kind == PieceKind::numerator_digit && piece.symbol == '0';
                });
+    }
+
+    static bool is_fraction_place(const FormatPiece& piece) {
+        return piece.kind == PieceKind::numerator_digit || piece.kind == PieceKind::denominator_digit ||
+               piece.kind == PieceKind::fixed_denominator;
+    }
+
+    // The pieces that a whole number leaves empty: from behind its last digit up to the last digit of the fraction,
+    // with all texts in between.
+    [[nodiscard]] std::pair<std::size_t, std::size_t> blank_room() const {
+        if (!blank_) return {0, 0};
+        const auto& pieces = section_.pieces;
+        const auto behind_last = [&pieces](auto matches) {
+            return static_cast<std::size_t>(std::find_if(pieces.rbegin(), pieces.rend(), matches).base() -
+                                            pieces.begin());
+        };
+        return {behind_last([](const FormatPiece& piece) { return piece.kind == PieceKind::integer_digit; }),
+                behind_last(is_fraction_place)};
+    }
+
+    [[nodiscard]] std::size_t width_of(const FormatPiece& piece) const {
+        if (piece.kind == PieceKind::literal) return code_points(section_.literal(piece)).size();
+        return piece.kind == PieceKind::fixed_denominator ? std::to_string(piece.count).size() : 1;
     }
 
     // Written from the left, but for a run of zeros, which is filled up on the left.

@@ -6,6 +6,8 @@
 #include "workbook/xls/decryption.h"
 #include "workbook/xls/sheet_cells.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace tavelo {
@@ -32,6 +34,8 @@ class XlsWorkbook final : public Workbook {
     void take_sheet_name(const BiffRecord& record, BiffCursor& cursor);
     void take_shared_strings(const BiffRecord& record, BiffCursor& cursor);
     void add_sheet(std::string name, SheetKind kind, std::size_t offset);
+    void find_lost_sheets(BiffCursor cursor);
+    [[nodiscard]] bool begins_sheet(std::size_t offset) const;
     [[nodiscard]] bool is_dialog(std::size_t offset) const;
     [[nodiscard]] CellStyles styles_of_sheet(BiffCursor cursor) const;
 
@@ -87,6 +91,10 @@ std::expected<void, OpenFailure> XlsWorkbook::read_globals() {
     }
     shared_strings_ = texts_.size();
 
+    find_lost_sheets(cursor);
+    for (std::size_t i = 0; i < sheets_.size() && encoding_.version >= Biff::biff5; ++i)
+        if (sheets_[i].kind == SheetKind::worksheet && is_dialog(offsets_[i])) sheets_[i].kind = SheetKind::dialog;
+
     const bool is_one_sheet = kind != SubstreamKind::globals && kind != SubstreamKind::book_4;
     if (is_one_sheet) add_sheet(std::string(only_sheet_name), kind_of_sheet(kind), 0);
     if (too_many_strings_) return std::unexpected(OpenFailure::too_large);
@@ -125,8 +133,6 @@ void XlsWorkbook::take_sheet_name(const BiffRecord& record, BiffCursor& cursor) 
         kind = SheetKind::chart;
     else if (stored == StoredKind::macro || stored == StoredKind::modules)
         kind = SheetKind::macro;
-    else if (is_dialog(offset))
-        kind = SheetKind::dialog;
     add_sheet(text.string(length, encoding_), kind, offset);
 }
 
@@ -148,6 +154,33 @@ void XlsWorkbook::take_shared_strings(const BiffRecord& record, BiffCursor& curs
 void XlsWorkbook::add_sheet(std::string name, SheetKind kind, std::size_t offset) {
     sheets_.push_back({.name = std::move(name), .kind = kind});
     offsets_.push_back(offset);
+}
+
+bool XlsWorkbook::begins_sheet(std::size_t offset) const {
+    const auto record = BiffCursor(stream_, offset).next();
+    return record && is_bof(record->type) && kind_of_bof(*record) != SubstreamKind::globals;
+}
+
+// A name that points beside the begin of its sheet gets the sheet that begins nearest. `cursor` stands behind the
+// globals, where the sheets follow one another.
+void XlsWorkbook::find_lost_sheets(BiffCursor cursor) {
+    const auto is_found = [this](std::size_t offset) { return begins_sheet(offset); };
+    if (std::ranges::all_of(offsets_, is_found)) return;
+    std::vector<std::size_t> begins;
+    std::size_t depth = 0;
+    for (std::size_t place = cursor.place(); const auto record = cursor.next(); place = cursor.place()) {
+        if (is_bof(record->type) && depth++ == 0) begins.push_back(place);
+        if (record->type == biff::eof && depth > 0) --depth;
+    }
+    if (begins.empty()) return;
+    for (std::size_t& offset : offsets_) {
+        if (is_found(offset)) continue;
+        const auto behind = std::ranges::lower_bound(begins, offset);
+        const bool first = behind == begins.begin();
+        const bool before_is_nearer =
+            behind == begins.end() || (!first && offset - *std::prev(behind) <= *behind - offset);
+        offset = before_is_nearer ? *std::prev(behind) : *behind;
+    }
 }
 
 bool XlsWorkbook::is_dialog(std::size_t offset) const {

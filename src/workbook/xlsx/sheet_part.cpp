@@ -43,7 +43,7 @@ std::optional<Number> number_of(std::string_view text) {
 
 std::optional<CellError> error_of(std::string_view text) {
     using enum CellError;
-    constexpr std::array<std::pair<std::string_view, CellError>, 8> errors{{
+    constexpr std::array<std::pair<std::string_view, CellError>, 13> errors{{
         {"#NULL!", null},
         {"#DIV/0!", division},
         {"#VALUE!", value},
@@ -52,6 +52,11 @@ std::optional<CellError> error_of(std::string_view text) {
         {"#NUM!", number},
         {"#N/A", not_available},
         {"#GETTING_DATA", getting_data},
+        {"#SPILL!", spill},
+        {"#CONNECT!", connect},
+        {"#BLOCKED!", blocked},
+        {"#FIELD!", field},
+        {"#CALC!", calc},
     }};
     for (const auto& [word, code] : errors) {
         if (word == text) return code;
@@ -121,6 +126,7 @@ class SheetHandler : public XmlHandler {
             inside_value_ = name == "v";
             inside_rich_text_ = name == "is";
             has_value_ = has_value_ || inside_value_ || inside_rich_text_;
+            preserve_ = attributes.find("space") == "preserve";
         } else if (inside_rich_text_) {
             rich_text_.element_start(name, attributes);
         }
@@ -235,7 +241,7 @@ class SheetHandler : public XmlHandler {
             set_text(rich);
             break;
         case StoredAs::string:
-            set_text(without_escapes(value_));
+            set_text(without_escapes(preserve_ ? std::string_view(value_) : trim_xml_space(value_)));
             break;
         case StoredAs::boolean:
             if (const auto word = trim_xml_space(value_); !word.empty())
@@ -262,7 +268,7 @@ class SheetHandler : public XmlHandler {
         set(CellKind::text, 0);
     }
 
-    // Errors that came after these eight are shown by their stored word.
+    // Errors that came after these are shown by their stored word.
     void set_error() {
         const auto word = trim_xml_space(value_);
         if (const auto error = error_of(word)) {
@@ -326,6 +332,7 @@ class SheetHandler : public XmlHandler {
     bool has_value_ = false;
     bool inside_value_ = false;
     bool inside_rich_text_ = false;
+    bool preserve_ = false; // the white space at the ends of a <v>
     bool in_order_ = true;
 };
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace tavelo {
 namespace {
 
@@ -31,7 +33,60 @@ TEST(Ingebouwde_opmaak, vult_bedragen_op_met_spaties) {
     EXPECT_EQ(shown_builtin(-1234.5, 40), "(1,234.50)");
     EXPECT_EQ(shown_builtin(0, 43), " -   ");
     EXPECT_EQ(shown_builtin(1234.5, 44), " $1,234.50 ");
-    EXPECT_EQ(NumberFormat(builtin_format(41)).show_text("x"), " x ");
+    EXPECT_EQ(NumberFormat(code_in_locale(builtin_format(41), locale_named("en-US"))).show_text("x"), " x ");
+}
+
+struct Amounts {
+    std::string_view language;
+    std::array<std::string_view, 12> negative; // -1234.5 under 5 to 8, 37 to 40, 41 to 44
+    std::array<std::string_view, 4> zero;      // under 41 to 44
+};
+
+TEST(Ingebouwde_opmaak, van_bedragen_volgt_de_landinstelling) {
+    constexpr std::array ids{5U, 6U, 7U, 8U, 37U, 38U, 39U, 40U, 41U, 42U, 43U, 44U};
+    constexpr std::array<Amounts, 6> expected{{
+        {"nl-NL",
+         {"€ -1.235", "€ -1.235", "€ -1.234,50", "€ -1.234,50", "-1.235", "-1.235", "-1.234,50", "-1.234,50",
+          " -1.235 ", " € -1.235 ", " -1.234,50 ", " € -1.234,50 "},
+         {" - ", " € - ", " -   ", " € -   "}},
+        {"nl-BE",
+         {"€ -1.235", "€ -1.235", "€ -1.234,50", "€ -1.234,50", "-1.235", "-1.235", "-1.234,50", "-1.234,50",
+          " -1.235 ", " € -1.235 ", " -1.234,50 ", " € -1.234,50 "},
+         {" - ", " € - ", " -   ", " € -   "}},
+        {"en-GB",
+         {"-£1,235", "-£1,235", "-£1,234.50", "-£1,234.50", "-1,235", "-1,235", "-1,234.50", "-1,234.50", "-1,235 ",
+          "-£1,235 ", "-1,234.50 ", "-£1,234.50 "},
+         {" - ", " £- ", " -   ", " £-   "}},
+        {"en-US",
+         {"($1,235)", "($1,235)", "($1,234.50)", "($1,234.50)", "(1,235)", "(1,235)", "(1,234.50)", "(1,234.50)",
+          " (1,235)", " $(1,235)", " (1,234.50)", " $(1,234.50)"},
+         {" - ", " $- ", " -   ", " $-   "}},
+        {"de-DE",
+         {"-1.235 €", "-1.235 €", "-1.234,50 €", "-1.234,50 €", "-1.235  ", "-1.235  ", "-1.234,50  ", "-1.234,50  ",
+          "-1.235   ", "-1.235 € ", "-1.234,50   ", "-1.234,50 € "},
+         {" -   ", " - € ", " -     ", " -   € "}},
+        {"fr-FR",
+         {"-1\u202F235 €", "-1\u202F235 €", "-1\u202F234,50 €", "-1\u202F234,50 €", "-1\u202F235  ", "-1\u202F235  ",
+          "-1\u202F234,50  ", "-1\u202F234,50  ", "-1\u202F235   ", "-1\u202F235 € ", "-1\u202F234,50   ",
+          "-1\u202F234,50 € "},
+         {" -   ", " - € ", " -     ", " -   € "}},
+    }};
+    for (const Amounts& amounts : expected) {
+        for (std::size_t i = 0; i < ids.size(); ++i)
+            EXPECT_EQ(shown(-1234.5, builtin_format(ids[i]), amounts.language), amounts.negative[i])
+                << amounts.language << ' ' << ids[i];
+        for (std::size_t i = 0; i < 4; ++i)
+            EXPECT_EQ(shown(0, builtin_format(ids[8 + i]), amounts.language), amounts.zero[i])
+                << amounts.language << ' ' << ids[8 + i];
+    }
+    EXPECT_EQ(shown(1234.5, builtin_format(37), "nl-NL"), "1.235");
+    EXPECT_EQ(shown(1234.5, builtin_format(7), "de-DE"), "1.234,50 €");
+}
+
+TEST(Ingebouwde_opmaak, een_merk_dat_geen_bedrag_is_blijft_staan) {
+    EXPECT_EQ(code_in_locale("[$-x-amount", locale_named("nl-NL")), "[$-x-amount");
+    EXPECT_EQ(code_in_locale("[$-x-amountz]0", locale_named("nl-NL")), "[$-x-amountz]0");
+    EXPECT_EQ(code_in_locale("0.00", locale_named("nl-NL")), "0.00");
 }
 
 TEST(Ingebouwde_opmaak, toont_datums_en_tijden) {

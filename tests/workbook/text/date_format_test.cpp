@@ -60,6 +60,19 @@ TEST(Datum, kent_de_schrikkeldag_die_1900_niet_had) {
     EXPECT_EQ(shown(61, "d mmm yyyy ddd"), "1 Mar 1900 Thu");
 }
 
+TEST(Datum, achter_b2_is_die_van_de_islamitische_kalender) {
+    EXPECT_EQ(shown(0, "B2yyyymmdd"), "13170829");
+    EXPECT_EQ(shown(1, "B2yyyymmdd"), "13170829");
+    EXPECT_EQ(shown(2, "B2yyyy-mm-dd"), "1317-09-01");
+    EXPECT_EQ(shown(60, "B2yyyy-mm-dd"), "1317-10-29");
+    EXPECT_EQ(shown(61, "B2yyyy-mm-dd"), "1317-10-29");
+    EXPECT_EQ(shown(45472, "B2d/m/yyyy"), "23/12/1445");
+    EXPECT_EQ(shown(45479, "B2d/m/yyyy"), "30/12/1445"); // the last day of a leap year
+    EXPECT_EQ(shown(45480, "B2d/m/yyyy"), "1/1/1446");
+    EXPECT_EQ(shown(45472, "B2dddd d mmmm"), "Saturday 23 12"); // its months have no names here
+    EXPECT_EQ(shown(45472, "B1d/m/yyyy"), "29/6/2024");
+}
+
 TEST(Datum, kan_vanaf_1904_tellen) {
     EXPECT_EQ(shown_from_1904(0, "d mmm yyyy ddd"), "1 Jan 1904 Fri");
     EXPECT_EQ(shown_from_1904(a_friday - 1462, "d mmm yyyy"), "20 Nov 2026");

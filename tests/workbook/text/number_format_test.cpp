@@ -103,12 +103,38 @@ TEST(Getallen, vullen_elk_plaatsje_op_zijn_eigen_manier) {
     EXPECT_EQ(shown(98765, "00.00.00"), "98765.00.00");
 }
 
+TEST(Getallen, een_komma_achter_de_punt_deelt_door_duizend) {
+    EXPECT_EQ(shown(12345, "0.,"), "12.");
+    EXPECT_EQ(shown(12345678, "0.,,"), "12.");
+    EXPECT_EQ(shown(12345, "\"x\".,"), "x.,"); // no digit in front
+}
+
+TEST(Opmaakcode, die_excel_weigert_toont_standaard) {
+    for (const auto* code : {"Standaard", "0 punten", "0 \\punteN", "h:mm n", "HH[M]", "HH[MM]", "[h]:[mm]", "[h] h",
+                             "mm:[ss]", "[mm] h", "0 d", "yyyy #", "d?", "0;0;0;@;0"}) {
+        EXPECT_EQ(shown(1234.5, code), "1234.5") << code;
+        EXPECT_EQ(NumberFormat(code).show_text("Amber"), "Amber") << code;
+    }
+}
+
+TEST(Opmaakcode, die_erop_lijkt_wordt_niet_geweigerd) {
+    EXPECT_EQ(shown(7, "\"punten\" 0"), "punten 7");
+    EXPECT_EQ(shown(7, "0 \\n"), "7 n");
+    EXPECT_EQ(shown(7, "0_n"), "7 ");
+    EXPECT_EQ(shown(7, "[Green]0"), "7");
+    EXPECT_EQ(shown(1.5, "[h]:mm:ss"), "36:00:00");
+    EXPECT_EQ(shown(1.5, "[mm]:ss.00"), "2160:00.00");
+    EXPECT_EQ(shown(1.5, "d [h]:mm"), "1 36:00");
+    EXPECT_EQ(shown(46346, "yyyy\\0"), "20260");
+    EXPECT_EQ(NumberFormat("0;0;0;@ d").show_text("x"), "x ");
+}
+
 TEST(Getallen, laten_tekst_tussen_hun_cijfers_toe) {
     EXPECT_EQ(shown(612345678, "00\\-00000000"), "06-12345678");
     EXPECT_EQ(shown(528003, "000000000\\.000"), "000000528.003");
     EXPECT_EQ(shown(31, "0\" paarden\""), "31 paarden");
-    EXPECT_EQ(shown(31, "nr\\. 0"), "nr. 31");
-    EXPECT_EQ(shown(31, "nr. 0"), "nr31. 0");
+    EXPECT_EQ(shown(31, "rit\\. 0"), "rit. 31");
+    EXPECT_EQ(shown(31, "rit. 0"), "rit31. 0");
     EXPECT_EQ(shown(-31, "\"x\"0"), "-x31");
 }
 
@@ -140,6 +166,25 @@ TEST(Breuken, laten_bij_een_geheel_getal_hun_plaats_leeg) {
     EXPECT_EQ(shown(5, "# 0/0"), "5 0/1");
     EXPECT_EQ(shown(5, "?/?"), "5/1");
     EXPECT_EQ(shown(4.999, "# ?/?"), "5    ");
+}
+
+TEST(Breuken, laten_bij_een_geheel_getal_ook_de_tekst_van_de_breuk_leeg) {
+    constexpr auto* letters = "# ?\?/\"a\"?\"a\"0\"a\"";
+    EXPECT_EQ(shown(0, letters), "0        a");
+    EXPECT_EQ(shown(0.1, letters), "0        a");
+    EXPECT_EQ(shown(0.12, letters), "  1/a8a0a");
+    EXPECT_EQ(shown(1, letters), "1        a");
+    EXPECT_EQ(shown(1.1, letters), "1  1/a9a0a");
+    EXPECT_EQ(shown(1.12, letters), "1  1/a8a0a");
+    EXPECT_EQ(shown(1, "# \"é\" ? \"a\" / \"b\" ?"), "1            ");
+    EXPECT_EQ(shown(1.2, "# \"é\" ? \"a\" / \"b\" ?"), "1 é 1 a / b 5");
+    EXPECT_EQ(shown(3, "# ?/16\" el\""), "3      el");
+}
+
+TEST(Breuken, vullen_cijfers_achter_hun_noemer_op) {
+    EXPECT_EQ(shown(12345.67, "00 00/0z0"), "12345 02/3z0");
+    EXPECT_EQ(shown(12345.67, "00 00/? ?"), "12345 02/3  ");
+    EXPECT_EQ(shown(12345.67, "00 00/# #"), "12345 02/3 0");
 }
 
 TEST(Breuken, met_een_vaste_noemer_ronden_de_teller_af) {

@@ -10,7 +10,8 @@ namespace tavelo {
 
 inline std::string shown(double value, std::string_view code, std::string_view language = "en-US",
                          DateSystem dates = DateSystem::from_1900) {
-    return NumberFormat(code).show_number(value, dates, locale_named(language));
+    const Locale& locale = locale_named(language);
+    return NumberFormat(code_in_locale(code, locale)).show_number(value, dates, locale);
 }
 
 inline std::string shown_in_dutch(double value, std::string_view code) { return shown(value, code, "nl-NL"); }

@@ -114,6 +114,21 @@ TEST(XlsWerkmap, een_blad_dat_er_niet_is_of_niet_begint_is_een_fout) {
     EXPECT_EQ((*open_xls(wrong.bytes()))->read_sheet(0).error(), OpenFailure::damaged);
 }
 
+TEST(XlsWerkmap, een_blad_waar_zijn_naam_naast_wijst_wordt_gevonden) {
+    const Bytes good = book_8({{.name = "a", .records = number(0, 0, 1)}, {.name = "b", .records = number(0, 0, 2)}});
+    constexpr std::size_t first_offset = 20 + 4; // behind the BOF record of the globals and the head of the first name
+    for (const int beside : {-7, -1, 1, 3, 9}) {
+        Bytes file = good;
+        const auto right = std::to_integer<unsigned>(good.bytes().at(first_offset));
+        file.put_u8(first_offset, right + static_cast<unsigned>(beside));
+        EXPECT_EQ(shown(file), Shown{"A1=1"}) << beside;
+        EXPECT_EQ(shown(file, 1), Shown{"A1=2"}) << beside;
+    }
+    Bytes far = good;
+    far.put_u32(first_offset, 0x7FFFFFFF);
+    EXPECT_EQ(shown(far), Shown{"A1=2"}); // the last sheet is the nearest
+}
+
 TEST(XlsWerkmap, een_cel_krijgt_de_getalopmaak_van_haar_stijl) {
     Bytes records = format_8(164, "0.000\"x\"").add(format_8(5, "\"fl\" 0"));
     records.add(xf(0)).add(xf(164)).add(xf(5)).add(xf(9));

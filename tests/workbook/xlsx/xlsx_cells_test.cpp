@@ -72,7 +72,28 @@ TEST(XlsxCellen, getallen_booleans_en_fouten) {
     EXPECT_EQ(sheet.shown("D1", "en-US"), "FALSE");
     EXPECT_EQ(sheet.shown("E1", "en-US"), "#N/A");
     EXPECT_EQ(sheet.shown("F1", "en-US"), "#DIV/0!");
-    EXPECT_EQ(sheet.shown("G1"), "#SPILL!");
+    EXPECT_EQ(sheet.shown("G1"), "#OVERLOPEN!");
+    EXPECT_EQ(sheet.shown("G1", "en-US"), "#SPILL!");
+}
+
+TEST(XlsxCellen, nieuwere_fouten_hebben_hun_nederlandse_woord) {
+    const auto sheet = sheet_with(
+        R"(<row r="1"><c r="A1" t="e"><v>#CALC!</v></c><c r="B1" t="e"><v>#FIELD!</v></c><c r="C1" t="e"><v>#BLOCKED!</v></c><c r="D1" t="e"><v>#CONNECT!</v></c><c r="E1" t="e"><v>#PYTHON!</v></c></row>)");
+    EXPECT_EQ(sheet.shown("A1"), "#BEREKENEN!");
+    EXPECT_EQ(sheet.shown("B1"), "#VELD!");
+    EXPECT_EQ(sheet.shown("C1"), "#GEBLOKKEERD!");
+    EXPECT_EQ(sheet.shown("D1"), "#VERBINDEN!");
+    EXPECT_EQ(sheet.shown("D1", "en-US"), "#CONNECT!");
+    EXPECT_EQ(sheet.shown("E1"), "#PYTHON!"); // not known here
+}
+
+TEST(XlsxCellen, de_tekst_van_een_formule_verliest_de_witruimte_aan_haar_einden) {
+    const auto sheet = sheet_with(
+        R"(<row r="1"><c r="A1" t="str"><v> Jan Smit
+</v></c><c r="B1" t="str"><v xml:space="preserve"> Jan </v></c><c r="C1" t="str"><v> Jan </v></c></row>)");
+    EXPECT_EQ(sheet.shown("A1"), "Jan Smit");
+    EXPECT_EQ(sheet.shown("B1"), " Jan ");
+    EXPECT_EQ(sheet.shown("C1"), "Jan");
 }
 
 TEST(XlsxCellen, wat_geen_getal_is_geeft_geen_cel) {

@@ -16,6 +16,7 @@
 #include "ui/main/frmTavelo.h"
 #include "ui/settings/frmInstellingen.h"
 
+#include <QDir>
 #include <QLocale>
 
 int main(int argc, char** argv) {
@@ -48,7 +49,8 @@ int main(int argc, char** argv) {
         frmInstellingen(bediening, kleur_dialoog, vertoond, &venster).exec();
     };
     frmTavelo venster(bediening,
-                      {opslag, mappen, utf8(QCoreApplication::applicationDirPath()), toon_intro, instellingen});
+                      {opslag, mappen, utf8(QDir::toNativeSeparators(QCoreApplication::applicationDirPath())),
+                       toon_intro, instellingen});
     eigenaar.window = &venster;
 
     Main(programma, opslag, mouse_wheel_present, venster);

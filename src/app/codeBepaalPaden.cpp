@@ -11,11 +11,7 @@ namespace tavelo {
 
 namespace {
 
-#ifdef _WIN32
-constexpr char scheiding = '\\';
-#else
-constexpr char scheiding = '/';
-#endif
+constexpr char scheiding = static_cast<char>(std::filesystem::path::preferred_separator);
 
 // Shell folder identifiers (CSIDL).
 struct BenoemdeMap {

@@ -1,16 +1,13 @@
 // Keeps the displays on while the public watches. Where the system offers no means the displays follow its settings.
 #pragma once
 
-#include <QObject>
-
-#include <cstdint>
-#include <optional>
+#include <memory>
 
 namespace tavelo {
 
 class KeepAwake {
   public:
-    KeepAwake() = default;
+    KeepAwake();
     ~KeepAwake();
     KeepAwake(const KeepAwake&) = delete;
     KeepAwake& operator=(const KeepAwake&) = delete;
@@ -18,14 +15,8 @@ class KeepAwake {
     void set(bool awake);
 
   private:
-    bool awake_ = false;
-#ifndef _WIN32
-    void inhibit();
-    void release(std::uint32_t cookie) const;
-
-    QObject context_;                     // ends a pending answer with this object
-    std::optional<std::uint32_t> cookie_; // of the desktop, while it keeps the displays on for us
-#endif
+    class System;
+    std::unique_ptr<System> system_; // what this system offers
 };
 
 } // namespace tavelo

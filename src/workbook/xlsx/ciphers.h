@@ -1,4 +1,4 @@
-// The digests and the cipher of locked .xlsx packages, as OpenSSL computes them.
+// The digests and the cipher of locked .xlsx packages, computed by what the system has: libcrypto, on Windows CNG.
 #pragma once
 
 #include "workbook/xls/biff_stream.h"
@@ -19,6 +19,7 @@ using Bytes = std::vector<std::byte>;
 [[nodiscard]] std::optional<Bytes> aes_ecb_decrypted(ByteSpan key, ByteSpan data);
 [[nodiscard]] std::optional<Bytes> aes_cbc_decrypted(ByteSpan key, ByteSpan first_block, ByteSpan data);
 
+// At most 4096 letters, in whole groups of four. Nothing for any other text.
 [[nodiscard]] std::optional<Bytes> from_base64(std::string_view text);
 
 } // namespace tavelo

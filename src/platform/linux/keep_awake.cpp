@@ -1,28 +1,16 @@
 #include "platform/keep_awake.h"
 
-#ifdef _WIN32
-#include <windows.h>
-#else
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QFileInfo>
-#endif
+#include <QObject>
+
+#include <cstdint>
+#include <optional>
 
 namespace tavelo {
-
-KeepAwake::~KeepAwake() { set(false); }
-
-#ifdef _WIN32
-
-void KeepAwake::set(bool awake) {
-    if (awake == awake_) return;
-    awake_ = awake;
-    SetThreadExecutionState(awake ? ES_CONTINUOUS | ES_DISPLAY_REQUIRED | ES_SYSTEM_REQUIRED : ES_CONTINUOUS);
-}
-
-#else
 
 namespace {
 
@@ -39,7 +27,26 @@ QDBusMessage screen_saver_call(const QString& method) {
 
 } // namespace
 
-void KeepAwake::set(bool awake) {
+class KeepAwake::System {
+  public:
+    void set(bool awake);
+
+  private:
+    void inhibit();
+    void release(std::uint32_t cookie) const;
+
+    bool awake_ = false;
+    QObject context_;                     // ends a pending answer with this object
+    std::optional<std::uint32_t> cookie_; // of the desktop, while it keeps the displays on for us
+};
+
+KeepAwake::KeepAwake() : system_(std::make_unique<System>()) {}
+
+KeepAwake::~KeepAwake() { set(false); }
+
+void KeepAwake::set(bool awake) { system_->set(awake); }
+
+void KeepAwake::System::set(bool awake) {
     if (awake == awake_) return;
     awake_ = awake;
     if (awake) {
@@ -50,7 +57,7 @@ void KeepAwake::set(bool awake) {
     }
 }
 
-void KeepAwake::inhibit() {
+void KeepAwake::System::inhibit() {
     if (!session_has_bus()) return;
     QDBusMessage call = screen_saver_call(QStringLiteral("Inhibit"));
     call << QStringLiteral("Tavelo") << QStringLiteral("Deelnemers op de monitor");
@@ -67,12 +74,10 @@ void KeepAwake::inhibit() {
     });
 }
 
-void KeepAwake::release(std::uint32_t cookie) const {
+void KeepAwake::System::release(std::uint32_t cookie) const {
     QDBusMessage call = screen_saver_call(QStringLiteral("UnInhibit"));
     call << cookie;
     QDBusConnection::sessionBus().asyncCall(call);
 }
-
-#endif
 
 } // namespace tavelo

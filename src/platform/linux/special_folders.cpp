@@ -2,28 +2,9 @@
 
 #include "platform/qt_text.h"
 
-#ifdef _WIN32
-#include <windows.h>
-
-#include <array>
-#include <shlobj.h>
-#else
 #include <QStandardPaths>
-#endif
 
 namespace tavelo {
-
-#ifdef _WIN32
-
-std::optional<std::string> SystemFolders::path(int csidl) const {
-    // The token -1 asks for the folders of the default user; the suite has always done so.
-    const HANDLE default_user = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(-1));
-    std::array<wchar_t, MAX_PATH> buffer{};
-    if (SHGetFolderPathW(nullptr, csidl, default_user, 0, buffer.data()) != S_OK) return {};
-    return utf8(QString::fromWCharArray(buffer.data()));
-}
-
-#else
 
 namespace {
 
@@ -65,7 +46,5 @@ std::optional<std::string> SystemFolders::path(int csidl) const {
     if (folder.isEmpty()) return {};
     return utf8(folder);
 }
-
-#endif
 
 } // namespace tavelo

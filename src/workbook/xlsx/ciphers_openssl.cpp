@@ -1,10 +1,10 @@
+// With libcrypto; ciphers_cng.cpp is the same on Windows.
 #include "workbook/xlsx/ciphers.h"
 
 #include <openssl/evp.h>
 
 #include <array>
 #include <memory>
-#include <string>
 
 namespace tavelo {
 
@@ -80,18 +80,6 @@ std::optional<Bytes> aes_ecb_decrypted(ByteSpan key, ByteSpan data) {
 std::optional<Bytes> aes_cbc_decrypted(ByteSpan key, ByteSpan first_block, ByteSpan data) {
     if (first_block.size() != block_size) return std::nullopt;
     return decrypted(cbc_for(key.size()), key, data_of(first_block), data);
-}
-
-std::optional<Bytes> from_base64(std::string_view text) {
-    if (text.empty() || text.size() % 4 != 0 || text.size() > 4096) return std::nullopt;
-    Bytes bytes(text.size() / 4 * 3);
-    const int size = EVP_DecodeBlock(data_of(bytes), reinterpret_cast<const unsigned char*>(text.data()),
-                                     static_cast<int>(text.size()));
-    if (size < 0) return std::nullopt;
-    // OpenSSL counts the padding as bytes.
-    const std::size_t padding = text.ends_with("==") ? 2 : text.ends_with("=") ? 1 : 0;
-    bytes.resize(static_cast<std::size_t>(size) - padding);
-    return bytes;
 }
 
 } // namespace tavelo

@@ -1,0 +1,9 @@
+#include "platform/codeTransparency.h"
+
+#include <QWidget>
+
+namespace tavelo {
+
+void zet_transparantie(QWidget& venster, std::uint8_t alpha) { venster.setWindowOpacity(alpha / 255.0); }
+
+} // namespace tavelo

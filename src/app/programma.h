@@ -4,11 +4,14 @@
 #include "app/codeBepaalPaden.h"
 #include "app/instellingen.h"
 #include "basis/grid.h"
+#include "basis/plain_file.h"
+#include "schedule/lees_rooster.h"
 #include "schedule/record/rubriek_labels.h"
 #include "schedule/record/schedule.h"
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace tavelo {
@@ -42,6 +45,10 @@ struct Programma {
     std::string rooster_bestand;
     std::string rooster_tijdstempel;
     std::string rooster_extensie;
+    // Of the bytes that were read of that file. Nothing when only its stamp is known; the kenmerk of no file when they
+    // could not be read.
+    std::optional<Bestandskenmerk> rooster_kenmerk;
+    std::optional<GeenRooster> leesfout; // of the last read of that file
 
     // The number box and the current combination. The row is 0 for none.
     std::string txtINR;

@@ -3,84 +3,40 @@
 #include "basis/text.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <filesystem>
-#include <memory>
-
-#ifdef _WIN32
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <cstdint>
-#include <fcntl.h>
-#include <io.h>
-#include <windows.h>
-#endif
+#include <utility>
 
 namespace tavelo {
 
 namespace {
 
-std::filesystem::path native(std::string_view pad) {
-    return std::filesystem::path(std::u8string(pad.begin(), pad.end()));
-}
-
-struct Sluiter {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using Open = std::unique_ptr<std::FILE, Sluiter>;
-
-#ifdef _WIN32
-// Shared in every way. Opened as usual, a writer could not replace or delete the file as long as it is read here.
-Open opened_shared(const std::filesystem::path& path) {
-    const HANDLE handle =
-        CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (handle == INVALID_HANDLE_VALUE) return nullptr;
-    const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_RDONLY | _O_BINARY);
-    if (descriptor < 0) {
-        CloseHandle(handle);
-        return nullptr;
+// Reads until `bytes`, of which `had` are read, are full or the file ends. Gives how many are read now; nothing when a
+// read failed.
+std::optional<std::size_t> fill(PlainFile& file, std::string& bytes, std::size_t had) {
+    while (had < bytes.size()) {
+        const std::optional<std::size_t> count = file.read(bytes.data() + had, bytes.size() - had);
+        if (!count) return std::nullopt;
+        if (*count == 0) break;
+        had += *count;
     }
-    Open file(_fdopen(descriptor, "rb"));
-    if (!file) _close(descriptor);
-    return file;
-}
-#else
-Open opened_shared(const std::filesystem::path& path) { return Open(std::fopen(path.c_str(), "rb")); }
-#endif
-
-// A folder, a pipe or a device opens on some systems; only a plain file counts.
-Open opened(std::string_view pad) {
-    if (pad.empty()) return nullptr;
-    const std::filesystem::path path = native(pad);
-    std::error_code error;
-    return std::filesystem::is_regular_file(path, error) ? opened_shared(path) : nullptr;
-}
-
-// Appends what the file still holds, at most `most` bytes.
-void append(std::FILE* file, std::size_t most, std::string& bytes) {
-    const std::size_t had = bytes.size();
-    bytes.resize(had + most);
-    bytes.resize(had + std::fread(bytes.data() + had, 1, most, file));
+    return had;
 }
 
 // Appends what the file still holds. Grows in steps of the size that it has now: it may change while it is read.
-void append_rest(std::FILE* file, std::size_t expected, std::string& bytes) {
-    constexpr std::size_t least = 4096;
-    std::size_t wanted = bytes.size();
-    std::size_t step = std::max(expected + 1, least); // one more, to meet the end at once
-    while (bytes.size() == wanted) {
-        wanted += step;
-        append(file, step, bytes);
-        step = std::max(bytes.size() / 4, least);
+std::expected<void, Leesfout> append_rest(PlainFile& file, std::uint64_t expected, std::uint64_t most,
+                                          std::string& bytes) {
+    constexpr std::uint64_t least = 4096;
+    std::size_t had = bytes.size();
+    std::uint64_t room = expected + 1; // one more, to meet the end at once
+    while (had == bytes.size()) {
+        if (had > most) return std::unexpected(Leesfout::te_groot);
+        room = std::max(room, had + std::max<std::uint64_t>(had / 4, least));
+        bytes.resize(std::min(room, most + 1));
+        const std::optional<std::size_t> filled = fill(file, bytes, had);
+        if (!filled) return std::unexpected(Leesfout::mislukt);
+        had = *filled;
     }
-}
-
-std::size_t size_of(std::string_view pad) {
-    std::error_code error;
-    const auto size = std::filesystem::file_size(native(pad), error);
-    return error ? 0 : static_cast<std::size_t>(size);
+    bytes.resize(had);
+    return {};
 }
 
 std::string_view after_last_of(std::string_view text, std::string_view separators) {
@@ -107,24 +63,29 @@ std::string bestand_map(std::string_view pad) {
     return at == std::string_view::npos ? std::string() : std::string(path.substr(0, at + 1));
 }
 
-std::optional<std::string> lees_bestand(std::string_view pad) {
-    const Open file = opened(pad);
-    if (!file) return std::nullopt;
-    std::string bytes;
-    append_rest(file.get(), size_of(pad), bytes);
-    return bytes;
+std::expected<std::string, Leesfout> lees_bestand(std::string_view pad, std::uint64_t hoogstens) {
+    std::expected<BestandInhoud, Leesfout> inhoud = lees_bestand_met_begin(pad, "", hoogstens);
+    if (!inhoud) return std::unexpected(inhoud.error());
+    return std::move(inhoud->bytes);
 }
 
-std::optional<BestandInhoud> lees_bestand_met_begin(std::string_view pad, std::string_view begin) {
-    const Open file = opened(pad);
-    if (!file) return std::nullopt;
-    BestandInhoud inhoud;
-    append(file.get(), begin.size(), inhoud.bytes);
+std::expected<BestandInhoud, Leesfout> lees_bestand_met_begin(std::string_view pad, std::string_view begin,
+                                                              std::uint64_t hoogstens) {
+    PlainFile file(pad);
+    const std::optional<Bestandskenmerk> kenmerk = file.is_open() ? file.kenmerk() : std::nullopt;
+    if (!kenmerk) return std::unexpected(Leesfout::niet_te_openen);
+    if (kenmerk->grootte > hoogstens) return std::unexpected(Leesfout::te_groot);
+    BestandInhoud inhoud{std::string(begin.size(), '\0'), false, *kenmerk};
+    const std::optional<std::size_t> gelezen = fill(file, inhoud.bytes, 0);
+    if (!gelezen) return std::unexpected(Leesfout::mislukt);
+    inhoud.bytes.resize(*gelezen);
     inhoud.begin_klopt = inhoud.bytes == begin;
-    if (inhoud.begin_klopt) append_rest(file.get(), size_of(pad), inhoud.bytes);
+    if (!inhoud.begin_klopt) return inhoud;
+    if (const auto rest = append_rest(file, kenmerk->grootte, hoogstens, inhoud.bytes); !rest)
+        return std::unexpected(rest.error());
     return inhoud;
 }
 
-bool bestandbestaat(std::string_view naam) { return opened(naam) != nullptr; }
+bool bestandbestaat(std::string_view naam) { return PlainFile(naam).is_open(); }
 
 } // namespace tavelo

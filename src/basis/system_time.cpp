@@ -1,8 +1,9 @@
 #include "basis/system_time.h"
 
+#include "basis/plain_file.h"
+
 #include <chrono>
 #include <ctime>
-#include <filesystem>
 
 namespace tavelo {
 
@@ -22,13 +23,14 @@ LocalTime local(std::time_t time) {
 
 LocalTime SystemClock::now() const { return local(std::time(nullptr)); }
 
+LocalTime local_time(std::int64_t nanoseconds) {
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(std::chrono::nanoseconds(nanoseconds));
+    return local(static_cast<std::time_t>(seconds.count()));
+}
+
 std::optional<LocalTime> SystemFileStamp::modified(std::string_view path) const {
-    std::error_code error;
-    const auto time =
-        std::filesystem::last_write_time(std::filesystem::path(std::u8string(path.begin(), path.end())), error);
-    if (error) return std::nullopt;
-    const auto system = std::chrono::floor<std::chrono::seconds>(std::chrono::file_clock::to_sys(time));
-    return local(static_cast<std::time_t>(system.time_since_epoch().count()));
+    const std::optional<Bestandskenmerk> kenmerk = kenmerk_van(path);
+    return kenmerk ? std::optional(local_time(kenmerk->gewijzigd)) : std::nullopt;
 }
 
 } // namespace tavelo

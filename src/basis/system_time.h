@@ -5,6 +5,9 @@
 
 namespace tavelo {
 
+// Of a number of nanoseconds since 1970 began in UTC; parts of a second are cut off.
+[[nodiscard]] LocalTime local_time(std::int64_t nanoseconds);
+
 class SystemClock final : public Clock {
   public:
     [[nodiscard]] LocalTime now() const override;

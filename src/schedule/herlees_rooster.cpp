@@ -2,7 +2,6 @@
 
 #include "basis/number.h"
 #include "basis/text.h"
-#include "schedule/lees_rooster.h"
 #include "schedule/record/items.h"
 #include "schedule/record/kolommen.h"
 
@@ -216,13 +215,17 @@ void voeg_rooster_samen(Grid& doel, const Grid& bron, Schedule& schedule, Wijzig
 
 bool herlees_rooster(std::string_view pad, const RoosterDoel& doel, Grid& grdImport, WijzigingenLijst* wijzigingen) {
     const std::expected<Roosterbestand, GeenRooster> bestand = open_roosterbestand(pad);
-    if (!bestand) return false;
+    if (bestand) herlees_rooster(*bestand, doel, grdImport, wijzigingen);
+    return bestand.has_value();
+}
+
+void herlees_rooster(const Roosterbestand& bestand, const RoosterDoel& doel, Grid& grdImport,
+                     WijzigingenLijst* wijzigingen) {
     SilentMessages geen_berichten; // nobody asked for this read
     doel.schedule.wis_tabellen();
-    lees_regels(bestand->regels(), doel.schedule, geen_berichten, doel.logboek);
+    lees_regels(bestand.regels(), doel.schedule, geen_berichten, doel.logboek);
     vul_rooster({grdImport, doel.schedule, doel.labels, geen_berichten, doel.logboek}, doel.schedule.rubriek_record);
     voeg_rooster_samen(doel.grid, grdImport, doel.schedule, wijzigingen);
-    return true;
 }
 
 } // namespace tavelo

@@ -1,7 +1,7 @@
 // Re-reads a schedule file and merges it into the grid without losing the operator's place.
 #pragma once
 
-#include "schedule/vul_rooster.h"
+#include "schedule/lees_rooster.h"
 
 #include <string>
 #include <string_view>
@@ -17,11 +17,15 @@ class WijzigingenLijst {
 };
 
 // Re-reads `pad` into the schedule and `grdImport` and merges that into `doel.grid`, keyed by the "Inr" column. Gives
-// false, and leaves everything as it was, when the file cannot be opened or begins with another line. Shows no message.
-// The caller takes the file's stamp before: one taken afterwards could belong to a later text than the one that was
-// read.
+// false, and leaves everything as it was, when the file cannot be read to its end or begins with another line. Shows no
+// message. The caller takes the file's stamp before: one taken afterwards could belong to a later text than the one
+// that was read.
 [[nodiscard]] bool herlees_rooster(std::string_view pad, const RoosterDoel& doel, Grid& grdImport,
                                    WijzigingenLijst* wijzigingen = nullptr);
+
+// The same for a file whose bytes are there already.
+void herlees_rooster(const Roosterbestand& bestand, const RoosterDoel& doel, Grid& grdImport,
+                     WijzigingenLijst* wijzigingen = nullptr);
 
 // The merge alone: rows of `bron` overwrite the cells of the first row of `doel` with the same number, new ones are
 // inserted at their place in `bron`, and what is then longer than `bron` is cut off at the end, by position: it is

@@ -1,7 +1,6 @@
 #include "schedule/lees_rooster.h"
 
 #include "basis/byte_mask.h"
-#include "basis/codeBestand.h"
 #include "basis/number.h"
 #include "basis/text.h"
 #include "schedule/record/items.h"
@@ -12,8 +11,6 @@
 namespace tavelo {
 
 namespace {
-
-constexpr std::string_view eerste_regel = "[Vendalo 3.4]";
 
 // Cuts a text into lines.
 class Regels {
@@ -121,6 +118,18 @@ class Lezer {
     std::string laatste_bericht_;
 };
 
+GeenRooster geen_rooster(Leesfout fout) {
+    switch (fout) {
+    case Leesfout::mislukt:
+        return GeenRooster::lezen_mislukt;
+    case Leesfout::te_groot:
+        return GeenRooster::te_groot;
+    case Leesfout::niet_te_openen:
+        break;
+    }
+    return GeenRooster::niet_te_openen;
+}
+
 std::string_view discipline_woord(std::int16_t ringtype) {
     switch (discipline_van(ringtype)) {
     case Discipline::dressuur:
@@ -139,14 +148,17 @@ std::string_view discipline_woord(std::int16_t ringtype) {
 
 } // namespace
 
-std::expected<Roosterbestand, GeenRooster> open_roosterbestand(std::string_view pad) {
-    std::optional<BestandInhoud> inhoud = lees_bestand_met_begin(pad, eerste_regel);
-    if (!inhoud) return std::unexpected(GeenRooster::niet_te_openen);
-    Regels regels(inhoud->bytes);
-    if (!inhoud->begin_klopt || regels.volgende() != eerste_regel)
+std::expected<Roosterbestand, GeenRooster> als_roosterbestand(std::expected<BestandInhoud, Leesfout> gelezen) {
+    if (!gelezen) return std::unexpected(geen_rooster(gelezen.error()));
+    Regels regels(gelezen->bytes);
+    if (!gelezen->begin_klopt || regels.volgende() != eerste_regel_rooster)
         return std::unexpected(GeenRooster::andere_eerste_regel);
     const std::size_t begin = regels.positie();
-    return Roosterbestand{std::move(inhoud->bytes), begin};
+    return Roosterbestand{std::move(gelezen->bytes), begin, gelezen->kenmerk};
+}
+
+std::expected<Roosterbestand, GeenRooster> open_roosterbestand(std::string_view pad) {
+    return als_roosterbestand(lees_bestand_met_begin(pad, eerste_regel_rooster, grootste_rooster));
 }
 
 void lees_regels(std::string_view bytes, Schedule& schedule, MessageBox& berichten, SkipLog& logboek) {
@@ -172,7 +184,11 @@ std::string rooster_bijschrift(const Schedule& schedule, std::string_view pad) {
 std::expected<std::string, GeenRooster> lees_rooster(std::string_view pad, const RoosterDoel& doel) {
     const std::expected<Roosterbestand, GeenRooster> bestand = open_roosterbestand(pad);
     if (!bestand) return std::unexpected(bestand.error());
-    lees_regels(bestand->regels(), doel.schedule, doel.berichten, doel.logboek);
+    return lees_rooster(*bestand, pad, doel);
+}
+
+std::string lees_rooster(const Roosterbestand& bestand, std::string_view pad, const RoosterDoel& doel) {
+    lees_regels(bestand.regels(), doel.schedule, doel.berichten, doel.logboek);
     vul_rooster(doel, doel.schedule.rubriek_record);
     doel.grid.set_row(1);
     doel.grid.set_column(1);

@@ -4,11 +4,14 @@
 #include "basis/number.h"
 #include "basis/text.h"
 #include "fakes/heap.h"
+#include "fakes/read_faults.h"
 #include "schedule/roosterproef.h"
 #include "schedule/toeval.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <filesystem>
 #include <iostream>
 
 namespace tavelo {
@@ -77,6 +80,29 @@ TEST(LeesRooster, wat_niet_te_openen_is_verandert_niets) {
     }
     proef.verwacht_ongewijzigd();
 }
+
+TEST(LeesRooster, meer_dan_256_mib_is_geen_rooster) {
+    GelezenProef proef;
+    const std::string pad = proef.map.write("groot.rst", kop);
+    std::filesystem::resize_file(pad, 268'435'457); // all holes: it takes no room
+    const auto gelezen = lees_rooster(pad, proef.doel);
+    ASSERT_FALSE(gelezen);
+    EXPECT_EQ(gelezen.error(), GeenRooster::te_groot);
+    proef.verwacht_ongewijzigd();
+}
+
+#ifndef _WIN32
+
+TEST(LeesRooster, een_lezing_die_het_einde_niet_haalt_verandert_niets) {
+    GelezenProef proef;
+    const test::ReadFaults storing({{}, {.error = EIO}});
+    const auto gelezen = proef.lees({"dnr:5\tna:Piet"});
+    ASSERT_FALSE(gelezen);
+    EXPECT_EQ(gelezen.error(), GeenRooster::lezen_mislukt);
+    proef.verwacht_ongewijzigd();
+}
+
+#endif
 
 TEST(LeesRooster, een_bestand_met_alleen_de_eerste_regel_is_een_leeg_rooster) {
     for (const std::string_view bytes : {"[Vendalo 3.4]", "[Vendalo 3.4]\r\n", "[Vendalo 3.4]\n", "[Vendalo 3.4]\r"}) {

@@ -2,7 +2,7 @@
 
 #include "basis/codeDatumTijd.h"
 #include "basis/scoped.h"
-#include "schedule/lees_rooster.h"
+#include "ui/main/leesfout.h"
 #include "vocabulary/rubriek_woorden.h"
 
 namespace tavelo {
@@ -15,17 +15,31 @@ void neem_stempel_over(Programma& p, const std::string& stempel) {
         p.slots[static_cast<std::size_t>(p.rooster_slot)].tijdstempel = stempel;
 }
 
-void herlees(Bediening& bediening, const std::string& stempel, WijzigingenLijst* wijzigingen) {
+using Lezing = std::expected<Roosterbestand, GeenRooster>;
+
+void herlees(Bediening& bediening, const std::string& stempel, const Lezing& lezing, WijzigingenLijst* wijzigingen) {
     Programma& p = bediening.programma;
-    const Omgeving& omgeving = bediening.omgeving;
-    const BusyPointer bezig(omgeving.muisaanwijzer);
     SilentMessages geen_berichten; // nobody asked for this read
-    const RoosterDoel doel{p.grdRooster, p.schedule, p.labels, geen_berichten, omgeving.logboek};
-    if (!herlees_rooster(p.rooster_bestand, doel, p.grdImport, wijzigingen)) return;
+    noteer_lezing(bediening, lezing ? std::nullopt : std::optional(lezing.error()));
+    if (!lezing) return;
+    const RoosterDoel doel{p.grdRooster, p.schedule, p.labels, geen_berichten, bediening.omgeving.logboek};
+    herlees_rooster(*lezing, doel, p.grdImport, wijzigingen);
     neem_stempel_over(p, stempel);
+    p.rooster_kenmerk = lezing->kenmerk;
     p.bijschrift = rooster_bijschrift(p.schedule, p.rooster_bestand);
     vul_rubriek_labels(p.schedule, p.labels);
     vul_nr_tijd(p.grdRooster, p.schedule.huidige_rubriek, geen_berichten);
+}
+
+void herlees_onder_groen_label(Bediening& bediening, const std::string& stempel, const std::function<Lezing()>& lees,
+                               const std::function<void()>& toon_label, WijzigingenLijst* wijzigingen) {
+    {
+        const ScopedFlag groen(bediening.programma.herlezen_bezig, true);
+        toon_label();
+        const BusyPointer bezig(bediening.omgeving.muisaanwijzer);
+        herlees(bediening, stempel, lees(), wijzigingen);
+    }
+    toon_label();
 }
 
 } // namespace
@@ -40,12 +54,8 @@ void auto_import(Bediening& bediening, const std::function<void()>& toon_label, 
         bestand_tijdstempel(bediening.omgeving.tijdstempels, p.rooster_bestand, tijdstempel_vorm);
     if (stempel <= p.rooster_tijdstempel) return;
 
-    {
-        const ScopedFlag bezig(p.herlezen_bezig, true);
-        toon_label();
-        herlees(bediening, stempel, wijzigingen);
-    }
-    toon_label();
+    herlees_onder_groen_label(
+        bediening, stempel, [&p] { return open_roosterbestand(p.rooster_bestand); }, toon_label, wijzigingen);
 }
 
 } // namespace tavelo

@@ -5,12 +5,13 @@
 #include "basis/scoped.h"
 #include "basis/text.h"
 #include "excel/codeExcel.h"
-#include "schedule/lees_rooster.h"
+#include "ui/main/leesfout.h"
 #include "ui/main/rooster_grid.h"
 #include "vocabulary/rubriek_woorden.h"
 
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 namespace tavelo {
 
@@ -60,26 +61,46 @@ void vraag_bestand(Bediening& bediening, int slot) {
         vul_slot(p, slot); // after a cancel the slot gets the current file, even that of the other slot: it is meant so
 }
 
+// Of what was read before.
+void vergeet_lezing(Programma& p) {
+    p.rooster_kenmerk.reset();
+    p.leesfout.reset();
+}
+
+std::expected<Roosterbestand, GeenRooster> gelezen_bestand(Programma& p) {
+    // What was not read has the kenmerk of no file, so that the poll reads it as soon as that can be done.
+    p.rooster_kenmerk = Bestandskenmerk{};
+    if (!bestandbestaat(p.rooster_bestand)) return std::unexpected(GeenRooster::niet_te_openen);
+    auto gelezen = lees_bestand_met_begin(p.rooster_bestand, eerste_regel_rooster, grootste_rooster);
+    if (gelezen) p.rooster_kenmerk = gelezen->kenmerk;
+    return als_roosterbestand(std::move(gelezen));
+}
+
+bool is_geen_rooster(GeenRooster fout) {
+    return fout == GeenRooster::andere_eerste_regel || fout == GeenRooster::te_groot;
+}
+
 void lees_roosterbestand(Bediening& bediening, int slot) {
     Programma& p = bediening.programma;
     const Omgeving& omgeving = bediening.omgeving;
-    const auto bijschrift =
-        lees_rooster(p.rooster_bestand, {p.grdRooster, p.schedule, p.labels, omgeving.berichten, omgeving.logboek});
-    if (!bijschrift) {
-        if (bijschrift.error() == GeenRooster::andere_eerste_regel) slot_van(p, slot) = {};
+    const std::expected<Roosterbestand, GeenRooster> bestand = gelezen_bestand(p);
+    if (!bestand) {
+        noteer_lezing(bediening, bestand.error());
+        // A file that cannot be read keeps its slot: on a share it may come back.
+        if (is_geen_rooster(bestand.error())) slot_van(p, slot) = {};
         return;
     }
-    p.bijschrift = *bijschrift;
+    p.bijschrift = lees_rooster(*bestand, p.rooster_bestand,
+                                {p.grdRooster, p.schedule, p.labels, omgeving.berichten, omgeving.logboek});
     vul_rubriek_labels(p.schedule, p.labels);
 }
 
 void laad_roosterbestand(Bediening& bediening, int slot) {
-    const Programma& p = bediening.programma;
     const BusyPointer bezig(bediening.omgeving.muisaanwijzer);
-    // A file that is not there keeps its slot: on a share it may come back.
-    if (bestandbestaat(p.rooster_bestand)) lees_roosterbestand(bediening, slot);
+    lees_roosterbestand(bediening, slot);
     // Also when nothing was read: the title over the times is no longer that of the last file.
-    vul_nr_tijd(bediening.programma.grdRooster, p.schedule.huidige_rubriek, bediening.omgeving.berichten);
+    Programma& p = bediening.programma;
+    vul_nr_tijd(p.grdRooster, p.schedule.huidige_rubriek, bediening.omgeving.berichten);
 }
 
 // A workbook carries none of these details, and its own title goes with them: it is meant so.
@@ -111,6 +132,7 @@ void laad_rooster(Bediening& bediening, int slot) {
     Programma& p = bediening.programma;
     const Omgeving& omgeving = bediening.omgeving;
     wis_rooster(bediening);
+    vergeet_lezing(p);
     const WithoutRedraw ongezien(p.grdRooster);
     const std::string soort = slot_van(p, slot).extensie;
     if (soort == "rst") laad_roosterbestand(bediening, slot);
@@ -127,6 +149,7 @@ void klik_slot(Bediening& bediening, int slot, Muisknop knop) {
     p.rooster_bestand = gekozen.bestand;
     p.rooster_tijdstempel = gekozen.tijdstempel;
     p.rooster_extensie = gekozen.extensie;
+    vergeet_lezing(p);
 
     const int bovenste_rij = p.grdRooster.top_row();
     const int rij = p.grdRooster.row();

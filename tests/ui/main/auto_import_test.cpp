@@ -4,6 +4,7 @@
 #include "fakes/grid_events.h"
 #include "fakes/heap.h"
 #include "fakes/opstelling.h"
+#include "fakes/read_faults.h"
 #include "fakes/temp_folder.h"
 #include "schedule/lees_rooster.h"
 #include "schedule/rij_voor_rij.h"
@@ -13,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <iostream>
 #include <new>
@@ -146,6 +148,42 @@ TEST(AutoImport, een_bestand_dat_weg_of_dicht_is_laat_alles_staan) {
     proef.schrijf(piet, 5);
     proef.tik();
     EXPECT_EQ(proef.naam(), "Piet");
+}
+
+#ifndef _WIN32
+
+TEST(AutoImport, een_lezing_die_halverwege_mislukt_laat_alles_staan_en_de_volgende_tik_leest) {
+    Geopend proef;
+    const auto voor = test::all_texts(proef.programma.grdRooster);
+    const std::string bijschrift = proef.programma.bijschrift;
+    proef.schrijf(piet, 1);
+    for (int keer = 0; keer < 2; ++keer) {
+        const test::ReadFaults storing({{}, {.error = EIO}});
+        proef.tik();
+        EXPECT_EQ(test::all_texts(proef.programma.grdRooster), voor);
+        EXPECT_EQ(proef.programma.schedule.deelnemer(1), "na:Jan");
+        EXPECT_EQ(proef.programma.rooster_tijdstempel, "20260613100000");
+        EXPECT_EQ(proef.programma.bijschrift, bijschrift);
+        EXPECT_EQ(proef.programma.labels.lblRoosterOmschrijving, "Ring, Finale");
+        EXPECT_EQ(proef.programma.leesfout, GeenRooster::lezen_mislukt);
+    }
+    ASSERT_EQ(proef.logboek.entries.size(), 1U); // not at every tick
+    EXPECT_EQ(proef.logboek.entries[0].key, proef.pad);
+    EXPECT_EQ(proef.logboek.entries[0].reason, "lezen is mislukt");
+    EXPECT_TRUE(proef.berichten.shown.empty());
+    proef.tik();
+    EXPECT_EQ(proef.naam(), "Piet");
+    EXPECT_EQ(proef.programma.leesfout, std::nullopt);
+}
+
+#endif
+
+TEST(AutoImport, het_kenmerk_van_de_gelezen_bytes_wordt_onthouden) {
+    Geopend proef;
+    EXPECT_EQ(proef.programma.rooster_kenmerk, kenmerk_van(proef.pad));
+    proef.schrijf(std::string(piet) + "\r\n", 1);
+    proef.tik();
+    EXPECT_EQ(proef.programma.rooster_kenmerk, kenmerk_van(proef.pad));
 }
 
 TEST(AutoImport, de_stempel_gaat_naar_het_slot_dat_getoond_wordt) {

@@ -1,12 +1,15 @@
 #include "excel/fake_excel.h"
 #include "fakes/grid_events.h"
 #include "fakes/opstelling.h"
+#include "fakes/read_faults.h"
 #include "fakes/temp_folder.h"
 #include "schedule/record/kolommen.h"
 #include "ui/main/open_rooster.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <filesystem>
 #include <new>
 
 namespace tavelo {
@@ -335,6 +338,53 @@ TEST_F(OpenRooster, een_bestand_dat_er_niet_is_houdt_zijn_slot) {
     EXPECT_EQ(p.bijschrift, "van de vorige");
 }
 
+TEST_F(OpenRooster, een_te_groot_bestand_is_geen_rooster) {
+    map.write("laatst/b.rst", roostertekst({3}));
+    std::filesystem::resize_file(pad("b.rst"), grootste_rooster + 1); // all holes: it takes no room
+    kies_in_dialoog(pad("b.rst"), 1);
+    EXPECT_EQ(p.grdRooster.rows(), 1);
+    verwacht_slot(1, {});
+    EXPECT_EQ(p.leesfout, GeenRooster::te_groot);
+}
+
+TEST_F(OpenRooster, waarom_er_niets_gelezen_is_staat_in_het_logboek_tot_een_volgende_opening) {
+    kies_in_dialoog(schrijf("a.rst", {3}), 0);
+    EXPECT_EQ(p.leesfout, std::nullopt);
+    kies_in_dialoog(pad("weg.rst"), 0);
+    EXPECT_EQ(p.leesfout, GeenRooster::niet_te_openen);
+    EXPECT_EQ(p.rooster_kenmerk, Bestandskenmerk{}); // of no file
+    ASSERT_EQ(logboek.entries.size(), 1U);
+    EXPECT_EQ(logboek.entries[0].key, pad("weg.rst"));
+    EXPECT_EQ(logboek.entries[0].reason, "kan niet geopend worden");
+    map.write("laatst/b.rst", "iets anders");
+    kies_in_dialoog(pad("b.rst"), 0);
+    EXPECT_EQ(p.leesfout, GeenRooster::andere_eerste_regel);
+    EXPECT_EQ(p.rooster_kenmerk, kenmerk_van(pad("b.rst")));
+    EXPECT_EQ(logboek.entries.back().reason, "is geen roosterbestand");
+    kies_in_dialoog(pad("plan.xlsx"), 0);
+    EXPECT_EQ(p.leesfout, std::nullopt);
+    EXPECT_EQ(p.rooster_kenmerk, std::nullopt);
+}
+
+#ifndef _WIN32
+
+TEST_F(OpenRooster, een_lezing_die_halverwege_mislukt_houdt_het_slot_onder_een_lege_lijst) {
+    kies_in_dialoog(schrijf("a.rst", {3}), 0);
+    open_dialoog.answer = schrijf("b.rst", {4, 5});
+    {
+        const test::ReadFaults storing({{}, {.error = EIO}});
+        open_rooster(bediening, "", 1);
+    }
+    EXPECT_EQ(p.grdRooster.rows(), 1);
+    verwacht_slot(1, {pad("b.rst"), "20260613080509", "rst"});
+    EXPECT_EQ(p.leesfout, GeenRooster::lezen_mislukt);
+    EXPECT_EQ(p.rooster_kenmerk, Bestandskenmerk{});
+    EXPECT_EQ(logboek.entries.back().reason, "lezen is mislukt");
+    EXPECT_TRUE(berichten.shown.empty());
+}
+
+#endif
+
 TEST_F(OpenRooster, een_werkmap_vult_het_rooster_en_wist_de_labels) {
     test::FakeExcel spreadsheet;
     spreadsheet.sheets = {test::sheet_of({{"1", "Jan"}, {"2", "Piet"}})};
@@ -417,6 +467,13 @@ TEST_F(KlikSlot, links_houdt_de_oude_stempel) {
     klik_slot(bediening, 0, Muisknop::links);
     EXPECT_EQ(p.rooster_tijdstempel, "20260613080509");
     verwacht_slot(0, {pad("a.rst"), "20260613080509", "rst"});
+}
+
+TEST_F(KlikSlot, zonder_te_lezen_is_van_de_bytes_van_het_slot_niets_bekend) {
+    klik_slot(bediening, 0, Muisknop::links);
+    EXPECT_EQ(p.rooster_kenmerk, kenmerk_van(pad("a.rst")));
+    klik_slot(bediening, 1, Muisknop::anders);
+    EXPECT_EQ(p.rooster_kenmerk, std::nullopt);
 }
 
 TEST_F(KlikSlot, links_op_een_leeg_slot_vraagt_om_een_bestand) {

@@ -14,40 +14,40 @@ namespace {
 std::unexpected<std::string> refuse(std::string_view sentence) { return std::unexpected(std::string(sentence)); }
 
 struct ReadSheet {
-    explicit ReadSheet(Sheet read) : sheet(std::move(read)), box(box_to_show(sheet)) {}
+    ReadSheet(Sheet read, const Workbook& workbook, const Locale& locale)
+        : sheet(std::move(read)), box(box_to_show(sheet)), texts(workbook, locale) {}
 
     Sheet sheet;
     UsedRange box;
+    DisplayedTexts texts;
 };
 
 // What the objects of one open workbook share; each of them may be the last to let go.
 class OpenBook {
   public:
     OpenBook(std::unique_ptr<Workbook> workbook, const Locale& locale)
-        : locale_(locale), workbook_(std::move(workbook)), texts_(*workbook_, locale_) {}
+        : locale_(locale), workbook_(std::move(workbook)) {}
 
     std::span<const SheetInfo> sheets() const { return workbook_->sheets(); }
-    std::string text_of(const Cell& cell) { return texts_.of(cell); }
 
     // Read once. Only the sheets that are asked for: of a workbook of fifty, the program shows one.
-    std::expected<std::shared_ptr<const ReadSheet>, OpenFailure> sheet(std::size_t index) {
+    std::expected<std::shared_ptr<ReadSheet>, OpenFailure> sheet(std::size_t index) {
         auto& known = sheets_[index];
         if (known) return known;
         auto sheet = workbook_->read_sheet(index);
         if (!sheet) return std::unexpected(sheet.error());
-        return known = std::make_shared<const ReadSheet>(std::move(*sheet));
+        return known = std::make_shared<ReadSheet>(std::move(*sheet), *workbook_, locale_);
     }
 
     std::string stored_text_of(const Cell& cell) const {
-        if (cell.kind == CellKind::text) return workbook_->texts()[cell.text];
+        if (cell.kind == CellKind::text) return std::string(workbook_->texts()[cell.text]);
         return cell.kind == CellKind::blank ? std::string() : number_text(cell.number);
     }
 
   private:
     Locale locale_;
     std::unique_ptr<Workbook> workbook_;
-    DisplayedTexts texts_;
-    std::map<std::size_t, std::shared_ptr<const ReadSheet>> sheets_;
+    std::map<std::size_t, std::shared_ptr<ReadSheet>> sheets_;
 };
 
 class BuiltinUsedRange : public ExcelUsedRange {
@@ -63,7 +63,7 @@ class BuiltinUsedRange : public ExcelUsedRange {
 
 class BuiltinCell : public ExcelRange {
   public:
-    BuiltinCell(std::shared_ptr<OpenBook> book, std::shared_ptr<const ReadSheet> sheet, std::uint32_t row,
+    BuiltinCell(std::shared_ptr<OpenBook> book, std::shared_ptr<ReadSheet> sheet, std::uint32_t row,
                 std::uint32_t column)
         : book_(std::move(book)),
           sheet_(std::move(sheet)),
@@ -77,11 +77,13 @@ class BuiltinCell : public ExcelRange {
     Automation<std::string> Value() override {
         return cell_ == nullptr ? std::string() : book_->stored_text_of(*cell_);
     }
-    Automation<std::string> Text() override { return cell_ == nullptr ? std::string() : book_->text_of(*cell_); }
+    Automation<std::string> Text() override {
+        return cell_ == nullptr ? std::string() : std::string(sheet_->texts.of(*cell_));
+    }
 
   private:
     std::shared_ptr<OpenBook> book_;
-    std::shared_ptr<const ReadSheet> sheet_;
+    std::shared_ptr<ReadSheet> sheet_;
     const Cell* cell_; // null for a place without a cell
     std::uint32_t column_;
 };
@@ -105,7 +107,7 @@ class BuiltinWorksheet : public ExcelWorksheet {
     }
 
   private:
-    Automation<std::shared_ptr<const ReadSheet>> read() {
+    Automation<std::shared_ptr<ReadSheet>> read() {
         const SheetKind kind = book_->sheets()[index_].kind;
         if (kind == SheetKind::chart || kind == SheetKind::dialog) return refuse("Dit blad heeft geen cellen.");
         auto sheet = book_->sheet(index_);

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <vector>
 
 namespace tavelo {
@@ -98,6 +99,8 @@ bool lees_werkmap(ExcelWorkbook& werkmap, int blad, Grid& grid) {
     return !aantal || blad >= *aantal;
 }
 
+constexpr std::string_view geen_geheugen = "Er is te weinig geheugen om de werkmap te lezen.";
+
 bool lees_bestand_met_excel(std::string_view bestand, int blad, Grid& grid, ExcelApplication& excel,
                             MessageBox& berichten) {
     const auto werkmap = open_werkmap(excel, bestand);
@@ -116,10 +119,16 @@ bool lees_excel(std::string_view bestand, int blad, Grid& grid, ExcelApplication
                 Pointer& muisaanwijzer) {
     const BusyPointer bezig(muisaanwijzer);
     const WithoutRedraw ongezien(grid);
-    maak_leeg(grid);
-    const std::string extensie = bestand_extensie(bestand);
-    const bool is_excel = extensie == "xls" || extensie == "xlsx";
-    return !is_excel || lees_bestand_met_excel(bestand, blad, grid, excel, berichten);
+    try {
+        maak_leeg(grid);
+        const std::string extensie = bestand_extensie(bestand);
+        const bool is_excel = extensie == "xls" || extensie == "xlsx";
+        return !is_excel || lees_bestand_met_excel(bestand, blad, grid, excel, berichten);
+    } catch (const std::bad_alloc&) { // of whatever takes memory, from the file's bytes to the grid's texts
+        maak_leeg(grid);
+        berichten.show(std::string("YEP1: ").append(geen_geheugen));
+        return true;
+    }
 }
 
 std::string excel_kolom(const Grid& bron, int rij, std::string_view kolom_letter) {

@@ -19,7 +19,8 @@ inline constexpr int grid_excel_breedte = 15000;
 // from A1 on, as many rows and columns as the used range counts, and the widths in the proportions of the sheet. The
 // grid is emptied first, whatever follows. An extension other than "xls" or "xlsx" (in small letters) reads nothing; a
 // workbook that does not open gives the one message "YEP1: " and why; any later failure leaves the cell, or the whole
-// grid, empty. True when that sheet was the last one, or when none was read; false when more sheets follow.
+// grid, empty. When memory runs out, wherever, the grid is empty and "YEP1: " says so. True when that sheet was the
+// last one, or when none was read; false when more sheets follow.
 bool lees_excel(std::string_view bestand, int blad, Grid& grid, ExcelApplication& excel, MessageBox& berichten,
                 Pointer& muisaanwijzer);
 

@@ -15,7 +15,7 @@ constexpr std::array error_order{
     CellError::blocked, CellError::field,         CellError::calc};
 static_assert(error_order.size() == std::tuple_size_v<decltype(Locale::errors)>);
 
-std::string error_text(double code, const Locale& locale) {
+std::string_view error_text(double code, const Locale& locale) {
     for (std::size_t i = 0; i < error_order.size(); ++i) {
         if (static_cast<double>(error_order[i]) == code) return locale.errors[i];
     }
@@ -24,23 +24,36 @@ std::string error_text(double code, const Locale& locale) {
 
 } // namespace
 
-std::string DisplayedTexts::of(const Cell& cell) {
+std::string_view DisplayedTexts::of(const Cell& cell) {
+    const std::string_view text = cut_to_longest(whole_text_of(cell));
+    if (text.size() > bytes_left_) bytes_left_ = 0;
+    if (bytes_left_ == 0) return {};
+    bytes_left_ -= text.size();
+    return text;
+}
+
+std::string_view DisplayedTexts::whole_text_of(const Cell& cell) {
     switch (cell.kind) {
     case CellKind::blank:
         return {};
     case CellKind::number:
-        return format_of(cell).show_number(
+        made_ = format_of(cell).show_number(
             cell.number, workbook_.dates_from_1904() ? DateSystem::from_1904 : DateSystem::from_1900, locale_);
-    case CellKind::text: {
-        const auto texts = workbook_.texts();
-        return cell.text < texts.size() ? format_of(cell).show_text(texts[cell.text]) : std::string();
-    }
+        return made_;
+    case CellKind::text:
+        return text_under(format_of(cell), workbook_.texts()[cell.text]);
     case CellKind::boolean:
-        return format_of(cell).show_text(cell.number != 0 ? locale_.true_word : locale_.false_word);
+        return text_under(format_of(cell), cell.number != 0 ? locale_.true_word : locale_.false_word);
     case CellKind::error:
         return error_text(cell.number, locale_);
     }
     return {};
+}
+
+std::string_view DisplayedTexts::text_under(const NumberFormat& format, std::string_view text) {
+    if (!format.changes_texts()) return text;
+    made_ = format.show_text(text);
+    return made_;
 }
 
 const NumberFormat& DisplayedTexts::format_of(const Cell& cell) {
@@ -48,7 +61,8 @@ const NumberFormat& DisplayedTexts::format_of(const Cell& cell) {
     if (cell.format >= codes.size()) return general_;
     if (formats_.size() <= cell.format) formats_.resize(codes.size());
     auto& format = formats_[cell.format];
-    if (!format) format.emplace(code_in_locale(codes[cell.format], locale_));
+    const std::string_view code = codes[cell.format];
+    if (!format) format.emplace(code.size() <= longest_format_code ? code_in_locale(code, locale_) : "");
     return *format;
 }
 

@@ -5,28 +5,42 @@
 #include "workbook/text/locale.h"
 #include "workbook/text/number_format.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tavelo {
 
-// The texts of one workbook. A format is parsed when the first cell needs it. Workbook and locale outlive this.
+// So many bytes of text are shown of one sheet: more than sixteen for each of most_shown_cells. Only a file that is
+// made for it goes beyond, by a long text that thousands of cells point at.
+inline constexpr std::size_t most_shown_bytes = std::size_t{64} * 1024 * 1024;
+
+// A longer code, in bytes, is General: Excel takes none of more than 255 characters.
+inline constexpr std::size_t longest_format_code = 3 * std::size_t{255};
+
+// The texts of one sheet. A format is parsed when the first cell needs it. Workbook and locale outlive this.
 class DisplayedTexts {
   public:
     DisplayedTexts(const Workbook& workbook, const Locale& locale) : workbook_(workbook), locale_(locale) {}
 
     // Texts and the words of booleans go through the text section of the format, errors never. A blank cell shows
-    // nothing.
-    [[nodiscard]] std::string of(const Cell& cell);
+    // nothing. At most longest_text characters; and from the call on that would bring the sum of the texts given so far
+    // beyond most_shown_bytes, nothing. The view holds until the next call.
+    [[nodiscard]] std::string_view of(const Cell& cell);
 
   private:
-    const NumberFormat& format_of(const Cell& cell);
+    [[nodiscard]] std::string_view whole_text_of(const Cell& cell);
+    [[nodiscard]] std::string_view text_under(const NumberFormat& format, std::string_view text);
+    [[nodiscard]] const NumberFormat& format_of(const Cell& cell);
 
     const Workbook& workbook_;
     const Locale& locale_;
     std::vector<std::optional<NumberFormat>> formats_;
     NumberFormat general_{""};
+    std::string made_; // the text given last, when it is not one that is kept elsewhere
+    std::size_t bytes_left_ = most_shown_bytes;
 };
 
 } // namespace tavelo

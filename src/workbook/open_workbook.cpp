@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <new>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -40,21 +41,29 @@ bool begins_as_zip(const std::vector<std::byte>& bytes) {
     return bytes.size() >= 2 && bytes[0] == std::byte{'P'} && bytes[1] == std::byte{'K'};
 }
 
-} // namespace
-
-std::expected<std::unique_ptr<Workbook>, OpenFailure> open_workbook(std::string_view file) {
-    auto bytes = read_whole_file(file);
-    if (!bytes) return std::unexpected(bytes.error());
-    return open_workbook(std::move(*bytes));
-}
-
-std::expected<std::unique_ptr<Workbook>, OpenFailure> open_workbook(std::vector<std::byte> bytes) {
+std::expected<std::unique_ptr<Workbook>, OpenFailure> open_by_content(std::vector<std::byte> bytes) {
     if (bytes.empty()) return std::unexpected(OpenFailure::damaged);
     if (begins_as_zip(bytes)) return open_xlsx(std::move(bytes));
     auto package = unlocked_package(bytes);
     if (package) return open_xlsx(std::move(*package));
     if (package.error() != OpenFailure::not_a_workbook) return std::unexpected(package.error());
     return open_xls(std::move(bytes));
+}
+
+} // namespace
+
+std::expected<std::unique_ptr<Workbook>, OpenFailure> open_workbook(std::string_view file) try {
+    auto bytes = read_whole_file(file);
+    if (!bytes) return std::unexpected(bytes.error());
+    return open_by_content(std::move(*bytes));
+} catch (const std::bad_alloc&) {
+    return std::unexpected(OpenFailure::no_memory);
+}
+
+std::expected<std::unique_ptr<Workbook>, OpenFailure> open_workbook(std::vector<std::byte> bytes) try {
+    return open_by_content(std::move(bytes));
+} catch (const std::bad_alloc&) {
+    return std::unexpected(OpenFailure::no_memory);
 }
 
 std::string_view sentence_of(OpenFailure failure) {
@@ -71,6 +80,8 @@ std::string_view sentence_of(OpenFailure failure) {
         return "De werkmap is met een wachtwoord beveiligd.";
     case OpenFailure::too_large:
         return "De werkmap is te groot om te lezen.";
+    case OpenFailure::no_memory:
+        return "Er is te weinig geheugen om de werkmap te lezen.";
     }
     return "De werkmap kan niet worden geopend.";
 }

@@ -3,6 +3,7 @@
 #include "workbook/displayed_text.h"
 #include "workbook/sheet_box.h"
 
+#include <new>
 #include <string_view>
 
 namespace tavelo {
@@ -24,7 +25,7 @@ void append_field(std::string& csv, std::string_view text) {
 
 } // namespace
 
-std::expected<std::string, OpenFailure> blad_als_csv(Workbook& workbook, std::size_t blad, const Locale& locale) {
+std::expected<std::string, OpenFailure> blad_als_csv(Workbook& workbook, std::size_t blad, const Locale& locale) try {
     if (blad == 0 || blad > workbook.sheets().size()) return std::string();
     const auto sheet = workbook.read_sheet(blad - 1);
     if (!sheet) return std::unexpected(sheet.error());
@@ -45,6 +46,8 @@ std::expected<std::string, OpenFailure> blad_als_csv(Workbook& workbook, std::si
         csv += "\r\n";
     }
     return csv;
+} catch (const std::bad_alloc&) {
+    return std::unexpected(OpenFailure::no_memory);
 }
 
 } // namespace tavelo

@@ -6,7 +6,7 @@
 //
 //     auto book = open_workbook(file);                    // or why not: OpenFailure, and sentence_of in Dutch
 //     auto sheet = (*book)->read_sheet(0);                // cells, used range, column widths
-//     DisplayedTexts texts(**book, locale_named("nl-NL"));
+//     DisplayedTexts texts(**book, locale_named("nl-NL")); // one for each sheet
 //     const Cell* cell = cell_at(*sheet, row, column);    // null for a place without a cell
 //     if (cell) texts.of(*cell);                          // UTF-8
 //
@@ -17,14 +17,18 @@
 // says is taken as Excel takes it; where Excel would repair a file, what can be read is shown.
 //
 // Limits, so that no file hangs the program or eats the computer. Beyond one of these a file is too_large: 256 MiB for
-// the file and for an unpacked sheet or the shared strings, 32 MiB for other parts, most_cells, most_strings. These
-// are cut off instead: most_sheets, and box_to_show leaves out what lies beyond most_shown_cells. What nests deeper
-// than 200 levels or declares a document type is damaged; no part outside the package is read.
+// the file and for an unpacked sheet or the shared strings, 32 MiB for other parts, most_cells, most_texts and
+// most_text_bytes. These are cut off instead: a text behind longest_text (32,767 characters, as Excel does), the texts
+// of a sheet behind most_shown_bytes (every further cell shows nothing), the sheets behind most_sheets, the formats of
+// an .xlsx behind most_formats and codes of more than longest_format_code (they are General); and box_to_show leaves
+// out what lies beyond most_shown_cells. What nests deeper than 200 levels or declares a document type is damaged; no
+// part outside the package is read.
 //
 // Failures are values, and nothing is left behind: a workbook that does not open gives its reason; a sheet that cannot
-// be read gives its own, and the other sheets of the workbook stay readable. The file is read whole and closed before
-// open_workbook returns and is never locked. Nothing here keeps anything between workbooks; one workbook may be used by
-// one thread at a time.
+// be read gives its own, and the other sheets of the workbook stay readable. When memory runs out in between, the
+// reason is no_memory; only DisplayedTexts, which gives no reasons, throws std::bad_alloc. The file is read whole and
+// closed before open_workbook returns and is never locked. Nothing here keeps anything between workbooks; one workbook
+// may be used by one thread at a time.
 #pragma once
 
 #include "workbook/book/model.h"

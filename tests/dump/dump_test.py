@@ -6,6 +6,7 @@
 
 import json
 import os
+import resource
 import subprocess
 import sys
 import tempfile
@@ -302,6 +303,34 @@ class Blad(DumpTest):
         self.assertEqual(len(zinnen), 2)
         for zin in zinnen:
             self.assertRegex(zin, r"\A[A-Z][^\n]+\.\n\Z")
+
+
+class WeinigGeheugen(DumpTest):
+    """The program under a hard limit of its memory: whatever asks for more, the program itself or a library that it
+    reads workbooks with, the answer is a sentence."""
+    ZIN = "Er is te weinig geheugen om de werkmap te lezen."
+
+    def setUp(self):
+        super().setUp()
+        self.klein, self.groot = self.map / "klein.xlsx", self.map / "groot.xlsx"
+        werkmap(self.klein, {"Start": [["1"]]})
+        werkmap(self.groot, {"Start": [["1"]] * 1_000_000})
+
+    def begrensd(self, mib, *woorden):
+        def begrens():
+            resource.setrlimit(resource.RLIMIT_AS, (mib * 2**20, mib * 2**20))
+        gedaan = subprocess.run([DUMP, "--maat", "raster", *woorden], capture_output=True, check=False, timeout=60,
+                                preexec_fn=begrens)
+        return gedaan.returncode, gedaan.stdout.decode("utf-8"), gedaan.stderr.decode("utf-8")
+
+    def test_te_weinig_geheugen_is_een_zin(self):
+        genoeg = next(mib for mib in range(16, 4096, 8) if self.begrensd(mib, self.klein)[0] == 0)
+        for meer in (1, 3, 6, 12, 24, 40):
+            with self.subTest(meer=meer):
+                status, uit, _ = self.begrensd(genoeg + meer, self.groot)
+                self.assertEqual(status, 0)
+                self.assertIn("YEP1: " + self.ZIN, json.loads(uit)["berichten"])
+                self.assertEqual(self.begrensd(genoeg + meer, "--blad", "1", self.groot), (1, "", self.ZIN + "\n"))
 
 
 class Gebruik(DumpTest):

@@ -10,13 +10,14 @@ namespace {
 // A workbook of nothing but texts and formats.
 struct Stored : Workbook {
     std::vector<std::string> codes{"", "0.00", "_(@_)", "d-m-yyyy"};
-    std::vector<std::string> strings{"Zoë"};
+    TextTable strings;
     bool from_1904 = false;
 
+    Stored() { strings.add("Zoë").value(); }
     std::span<const SheetInfo> sheets() const override { return {}; }
-    std::expected<Sheet, OpenFailure> read_sheet(std::size_t) override { return Sheet(); }
+    std::expected<Sheet, OpenFailure> sheet_at(std::size_t) override { return Sheet(); }
     std::span<const std::string> formats() const override { return codes; }
-    std::span<const std::string> texts() const override { return strings; }
+    const TextTable& texts() const override { return strings; }
     bool dates_from_1904() const override { return from_1904; }
 };
 
@@ -82,6 +83,39 @@ TEST(GetoondeTekst, ingebouwde_bedragen_volgen_het_land) {
     EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, -1234, 1)), "-1.234");
     EXPECT_EQ(DisplayedTexts(book, american).of(cell(CellKind::number, -1234, 1)), "(1,234)");
     EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 12.5, 2)), " € 12,50 ");
+}
+
+TEST(GetoondeTekst, een_tekst_is_hoogstens_zo_lang_als_die_van_excel) {
+    Stored book;
+    book.codes = {"", "@@@", "x@"};
+    book.strings.add(std::string(longest_text, 'a')).value();
+    Cell text = cell(CellKind::text, 0);
+    text.text = 1;
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(text), std::string(longest_text, 'a'));
+    text.format = 1;
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(text), std::string(longest_text, 'a'));
+    text.format = 2;
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(text), "x" + std::string(longest_text - 1, 'a'));
+}
+
+TEST(GetoondeTekst, een_onmogelijk_lange_opmaak_toont_standaard) {
+    Stored book;
+    book.codes = {"0" + std::string(longest_format_code - 1, '!'), "0" + std::string(longest_format_code, '!')};
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 7, 0)).size(), longest_format_code);
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 7, 1)), "7");
+}
+
+TEST(GetoondeTekst, voorbij_de_som_van_een_blad_toont_elke_cel_niets) {
+    Stored book;
+    book.strings.add(std::string(longest_text, 'a')).value();
+    Cell text = cell(CellKind::text, 0);
+    text.text = 1;
+    DisplayedTexts texts(book, dutch);
+    for (std::size_t i = 0; i < most_shown_bytes / longest_text; ++i)
+        ASSERT_EQ(texts.of(text).size(), longest_text) << i;
+    EXPECT_EQ(texts.of(text), "");
+    EXPECT_EQ(texts.of(cell(CellKind::number, 1)), "");                   // also what would have fitted
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(text).size(), longest_text); // another sheet
 }
 
 } // namespace

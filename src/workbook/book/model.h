@@ -2,6 +2,8 @@
 // The readers for .xls and .xlsx fill it; everything above them reads only this. Rows and columns count from 0.
 #pragma once
 
+#include "workbook/book/text_table.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <expected>
@@ -64,12 +66,19 @@ struct Sheet {
 };
 
 // damaged: broken, or saved for a part only. too_large: what a reader refuses to unpack, a zip bomb for instance.
-enum class OpenFailure : std::uint8_t { not_found, unreadable, not_a_workbook, damaged, password, too_large };
+// no_memory: this computer cannot hold what another one can.
+enum class OpenFailure : std::uint8_t {
+    not_found,
+    unreadable,
+    not_a_workbook,
+    damaged,
+    password,
+    too_large,
+    no_memory
+};
 
-// A sheet with more stored cells than this is refused as too large: they would take more than 256 MB. A workbook with
-// more shared strings as well.
+// A sheet with more stored cells than this is refused as too large: they would take more than 200 MB.
 inline constexpr std::size_t most_cells = std::size_t{1} << 23;
-inline constexpr std::size_t most_strings = most_cells;
 // Further sheets are left out. Excel itself stops at what memory holds; a workbook of people has some hundreds at most.
 inline constexpr std::size_t most_sheets = 65536;
 
@@ -79,17 +88,23 @@ class Workbook {
     virtual ~Workbook() = default;
     // Sheets of all kinds, in the order of the workbook.
     [[nodiscard]] virtual std::span<const SheetInfo> sheets() const = 0;
-    // A chart or dialog sheet gives an empty sheet.
-    [[nodiscard]] virtual std::expected<Sheet, OpenFailure> read_sheet(std::size_t index) = 0;
+    // A chart or dialog sheet gives an empty sheet, a sheet that the workbook does not have fails.
+    [[nodiscard]] std::expected<Sheet, OpenFailure> read_sheet(std::size_t index);
     // Number format codes as Excel writes them (en-US notation); "" is General. Valid after the sheets that use them
     // are read.
     [[nodiscard]] virtual std::span<const std::string> formats() const = 0;
-    [[nodiscard]] virtual std::span<const std::string> texts() const = 0;
+    // Those of the sheets that are read so far.
+    [[nodiscard]] virtual const TextTable& texts() const = 0;
     // Dates count from 1 January 1904 instead of 1900.
     [[nodiscard]] virtual bool dates_from_1904() const = 0;
+
+  private:
+    // May throw std::bad_alloc: read_sheet makes no_memory of it.
+    [[nodiscard]] virtual std::expected<Sheet, OpenFailure> sheet_at(std::size_t index) = 0;
 };
 
-// `bytes` is the whole file. Each reader answers not_a_workbook for what is not its container.
+// `bytes` is the whole file. Each reader answers not_a_workbook for what is not its container. They may throw
+// std::bad_alloc.
 [[nodiscard]] std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xlsx(std::vector<std::byte> bytes);
 [[nodiscard]] std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xls(std::vector<std::byte> bytes);
 

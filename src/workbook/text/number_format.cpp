@@ -1,5 +1,6 @@
 #include "workbook/text/number_format.h"
 
+#include "workbook/book/text_table.h"
 #include "workbook/text/date_text.h"
 #include "workbook/text/format_code.h"
 #include "workbook/text/number_text.h"
@@ -124,11 +125,14 @@ std::string NumberFormat::show_number(double value, DateSystem dates, const Loca
     return shown.text;
 }
 
+bool NumberFormat::changes_texts() const { return parsed_->code.text.has_value(); }
+
 std::string NumberFormat::show_text(std::string_view text) const {
-    if (!parsed_->code.text) return std::string(text);
+    if (!changes_texts()) return std::string(text);
     const FormatSection& section = *parsed_->code.text;
     std::string out;
     for (const FormatPiece& piece : section.pieces) {
+        if (out.size() > longest_text_bytes) break;
         switch (piece.kind) {
         case PieceKind::text:
         case PieceKind::general:

@@ -23,7 +23,10 @@ class NumberFormat {
 
     [[nodiscard]] std::string show_number(double value, DateSystem dates, const Locale& locale) const;
     // Texts and booleans go through the text section; without one the text is shown as it is.
+    // What comes after longest_text characters may be left out.
     [[nodiscard]] std::string show_text(std::string_view text) const;
+    // False when every text is shown as it is.
+    [[nodiscard]] bool changes_texts() const;
 
   private:
     struct Parsed;

@@ -132,7 +132,7 @@ class ColumnWidths {
 
 class SheetReader {
   public:
-    SheetReader(BiffCursor cursor, const SheetContext& context, std::vector<std::string>& texts)
+    SheetReader(BiffCursor cursor, const SheetContext& context, TextTable& texts)
         : cursor_(cursor), context_(context), texts_(texts), widths_(context.digit_pixels) {}
 
     std::expected<Sheet, OpenFailure> read() {
@@ -146,6 +146,7 @@ class SheetReader {
                 // One record has a row's cells at most.
                 if (sheet_.cells.size() > most_cells - most_columns) return std::unexpected(OpenFailure::too_large);
                 take(*record);
+                if (too_many_texts_) return std::unexpected(OpenFailure::too_large);
             }
         }
         finish();
@@ -176,15 +177,16 @@ class SheetReader {
         return style < context_.cell_formats.size() ? context_.cell_formats[style] : 0;
     }
     void add(const Cell& cell);
-    [[nodiscard]] std::uint32_t add_text(std::string text);
+    [[nodiscard]] std::uint32_t add_text(std::string_view text);
 
     BiffCursor cursor_;
     const SheetContext& context_;
-    std::vector<std::string>& texts_;
+    TextTable& texts_;
     ColumnWidths widths_;
     Sheet sheet_;
     Used used_;
     bool in_order_ = true;
+    bool too_many_texts_ = false;
     std::optional<std::size_t> awaits_string_; // the formula cell whose STRING record is still to come
     std::optional<std::uint32_t> empty_text_;
 };
@@ -212,12 +214,12 @@ void SheetReader::add(const Cell& cell) {
     sheet_.cells.push_back(cell);
 }
 
-std::uint32_t SheetReader::add_text(std::string text) {
+std::uint32_t SheetReader::add_text(std::string_view text) {
     if (text.empty() && empty_text_) return *empty_text_;
-    const auto number = static_cast<std::uint32_t>(texts_.size());
+    const auto number = texts_.add(text);
+    if (!number) too_many_texts_ = true;
     if (text.empty()) empty_text_ = number;
-    texts_.push_back(std::move(text));
-    return number;
+    return number.value_or(0);
 }
 
 void SheetReader::take(const BiffRecord& record) {
@@ -411,8 +413,7 @@ void SheetReader::finish() {
 
 } // namespace
 
-std::expected<Sheet, OpenFailure> read_sheet_cells(BiffCursor cursor, const SheetContext& context,
-                                                   std::vector<std::string>& texts) {
+std::expected<Sheet, OpenFailure> read_sheet_cells(BiffCursor cursor, const SheetContext& context, TextTable& texts) {
     return SheetReader(cursor, context, texts).read();
 }
 

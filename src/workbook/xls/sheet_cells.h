@@ -21,8 +21,8 @@ struct SheetContext {
 };
 
 // Reads behind the sheet's BOF record up to its end, or to the end of the stream. Substreams inside (charts) are passed
-// over. Texts that are no shared strings are added to `texts`. Fails on more than most_cells only.
+// over. Texts that are no shared strings are added to `texts`. Fails on too many cells or texts only.
 [[nodiscard]] std::expected<Sheet, OpenFailure> read_sheet_cells(BiffCursor cursor, const SheetContext& context,
-                                                                 std::vector<std::string>& texts);
+                                                                 TextTable& texts);
 
 } // namespace tavelo

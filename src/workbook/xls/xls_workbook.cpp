@@ -24,12 +24,12 @@ class XlsWorkbook final : public Workbook {
     [[nodiscard]] std::expected<void, OpenFailure> read_globals();
 
     [[nodiscard]] std::span<const SheetInfo> sheets() const override { return sheets_; }
-    [[nodiscard]] std::expected<Sheet, OpenFailure> read_sheet(std::size_t index) override;
     [[nodiscard]] std::span<const std::string> formats() const override { return formats_.codes(); }
-    [[nodiscard]] std::span<const std::string> texts() const override { return texts_; }
+    [[nodiscard]] const TextTable& texts() const override { return texts_; }
     [[nodiscard]] bool dates_from_1904() const override { return dates_from_1904_; }
 
   private:
+    [[nodiscard]] std::expected<Sheet, OpenFailure> sheet_at(std::size_t index) override;
     void take_global(const BiffRecord& record, BiffCursor& cursor);
     void take_sheet_name(const BiffRecord& record, BiffCursor& cursor);
     void take_shared_strings(const BiffRecord& record, BiffCursor& cursor);
@@ -46,7 +46,7 @@ class XlsWorkbook final : public Workbook {
     CellStyles styles_;
     bool sheets_have_styles_ = false; // up to BIFF4 each sheet brings its own
     FormatCodes formats_;
-    std::vector<std::string> texts_; // the shared strings, then the texts of the sheets that were read
+    TextTable texts_; // the shared strings, then the texts of the sheets that were read
     std::size_t shared_strings_ = 0;
     bool too_many_strings_ = false;
     bool dates_from_1904_ = false;
@@ -142,12 +142,11 @@ void XlsWorkbook::take_shared_strings(const BiffRecord& record, BiffCursor& curs
     BiffText text(cursor, record.data);
     text.skip(counts);
     while (!text.at_end()) {
-        if (texts_.size() == most_strings) {
+        const std::size_t length = text.word();
+        if (!texts_.add(text.string(length, encoding_))) {
             too_many_strings_ = true;
             return;
         }
-        const std::size_t length = text.word();
-        texts_.push_back(text.string(length, encoding_));
     }
 }
 
@@ -204,7 +203,7 @@ CellStyles XlsWorkbook::styles_of_sheet(BiffCursor cursor) const {
     return styles;
 }
 
-std::expected<Sheet, OpenFailure> XlsWorkbook::read_sheet(std::size_t index) {
+std::expected<Sheet, OpenFailure> XlsWorkbook::sheet_at(std::size_t index) {
     if (index >= offsets_.size()) return std::unexpected(OpenFailure::unreadable);
     BiffCursor cursor(stream_, offsets_[index]);
     const auto first = cursor.next();

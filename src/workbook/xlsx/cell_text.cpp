@@ -1,5 +1,6 @@
 #include "workbook/xlsx/cell_text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <optional>
@@ -67,6 +68,11 @@ std::string without_escapes(std::string_view text) {
     return plain;
 }
 
+void append_stored(std::string& text, std::string_view piece) {
+    constexpr std::size_t most = escape_length * longest_text;
+    text += piece.substr(0, most - std::min(most, text.size()));
+}
+
 void RichText::element_start(std::string_view name, const XmlAttributes& attributes) {
     if (name == "rPh") ++phonetic_depth_;
     if (name != "t" || phonetic_depth_ > 0) return;
@@ -77,13 +83,14 @@ void RichText::element_start(std::string_view name, const XmlAttributes& attribu
 void RichText::element_end(std::string_view name) {
     if (name == "rPh" && phonetic_depth_ > 0) --phonetic_depth_;
     if (name != "t" || !inside_run_) return;
-    joined_ += without_escapes(preserve_ ? std::string_view(run_) : trim_xml_space(run_));
+    if (joined_.size() <= longest_text_bytes)
+        joined_ += without_escapes(preserve_ ? std::string_view(run_) : trim_xml_space(run_));
     run_.clear();
     inside_run_ = false;
 }
 
 void RichText::text(std::string_view piece) {
-    if (inside_run_) run_ += piece;
+    if (inside_run_) append_stored(run_, piece);
 }
 
 std::string RichText::take() {

@@ -13,6 +13,10 @@ namespace tavelo {
 // such a text itself.
 [[nodiscard]] std::string without_escapes(std::string_view text);
 
+// Adds a piece of a text as it is stored, but no more than the longest text of escapes alone takes: the rest of it
+// would be cut off anyway.
+void append_stored(std::string& text, std::string_view piece);
+
 // Gathers the text below an <si> or <is> element: that of its <t> and of the <t> of every run, joined. Phonetic runs
 // (<rPh>) are left out. Without xml:space="preserve" a <t> loses the white space at its ends, as Excel does it, so
 // words of neighbouring runs may grow together.

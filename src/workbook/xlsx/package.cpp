@@ -20,6 +20,18 @@ bool begins_as_zip(std::span<const std::byte> bytes) {
            bytes[3] == std::byte{4};
 }
 
+OpenFailure failure_of(const zip_error_t& error) {
+    switch (zip_error_code_zip(&error)) {
+    case ZIP_ER_NOPASSWD:
+    case ZIP_ER_ENCRNOTSUPP:
+        return OpenFailure::password;
+    case ZIP_ER_MEMORY:
+        return OpenFailure::no_memory;
+    default:
+        return OpenFailure::damaged;
+    }
+}
+
 } // namespace
 
 void Package::CloseZip::operator()(zip* archive) const { zip_discard(archive); }
@@ -30,11 +42,12 @@ std::expected<std::unique_ptr<Package>, OpenFailure> Package::open(std::vector<s
     std::unique_ptr<Package> package(new Package);
     package->bytes_ = std::move(bytes);
     zip_source_t* source = zip_source_buffer_create(package->bytes_.data(), package->bytes_.size(), 0, nullptr);
-    if (source == nullptr) return std::unexpected(OpenFailure::unreadable);
-    package->archive_.reset(zip_open_from_source(source, ZIP_RDONLY, nullptr));
+    if (source == nullptr) return std::unexpected(OpenFailure::no_memory);
+    zip_error_t why{};
+    package->archive_.reset(zip_open_from_source(source, ZIP_RDONLY, &why));
     if (!package->archive_) {
         zip_source_free(source); // an opened archive owns its source, a failed opening leaves it with us
-        return std::unexpected(OpenFailure::damaged);
+        return std::unexpected(failure_of(why));
     }
 
     const auto members = zip_get_num_entries(package->archive_.get(), 0);
@@ -58,17 +71,13 @@ std::expected<void, OpenFailure> Package::read(std::string_view part, std::uint6
         return std::unexpected(OpenFailure::too_large);
 
     const std::unique_ptr<zip_file_t, CloseMember> member(zip_fopen_index(archive_.get(), found->second, 0));
-    if (!member) {
-        const int why = zip_error_code_zip(zip_get_error(archive_.get()));
-        const bool locked = why == ZIP_ER_NOPASSWD || why == ZIP_ER_ENCRNOTSUPP;
-        return std::unexpected(locked ? OpenFailure::password : OpenFailure::damaged);
-    }
+    if (!member) return std::unexpected(failure_of(*zip_get_error(archive_.get())));
 
     std::array<char, 64 * 1024> chunk{};
     std::uint64_t unpacked = 0; // counted as well, because the claim can be a lie
     while (true) {
         const auto count = zip_fread(member.get(), chunk.data(), chunk.size());
-        if (count < 0) return std::unexpected(OpenFailure::damaged);
+        if (count < 0) return std::unexpected(failure_of(*zip_file_get_error(member.get())));
         if (count == 0) return {};
         unpacked += static_cast<std::uint64_t>(count);
         if (unpacked > limit) return std::unexpected(OpenFailure::too_large);

@@ -140,7 +140,7 @@ class SheetHandler : public XmlHandler {
     }
 
     void text(std::string_view piece) override {
-        if (inside_value_) value_ += piece;
+        if (inside_value_) append_stored(value_, piece);
         if (inside_rich_text_) rich_text_.text(piece);
     }
 
@@ -263,8 +263,9 @@ class SheetHandler : public XmlHandler {
     }
 
     void set_text(std::string_view text) {
-        cell_.text = static_cast<std::uint32_t>(context_.texts.size());
-        context_.texts.emplace_back(text);
+        const auto index = context_.texts.add(text);
+        if (!index) stopped_ = OpenFailure::too_large;
+        cell_.text = index.value_or(0);
         set(CellKind::text, 0);
     }
 

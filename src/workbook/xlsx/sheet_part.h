@@ -35,7 +35,7 @@ struct SheetContext {
     std::size_t shared_strings; // the first so many of `texts`
     // Why the shared strings could not be read: a sheet that uses none of them is read all the same.
     std::optional<OpenFailure> strings_failure;
-    std::vector<std::string>& texts; // strings that stand in the sheet itself are added behind
+    TextTable& texts; // strings that stand in the sheet itself are added behind
 };
 
 [[nodiscard]] std::expected<Sheet, OpenFailure> read_sheet_part(const Package& package, std::string_view part,

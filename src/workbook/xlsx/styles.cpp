@@ -46,7 +46,7 @@ class StylesHandler : public XmlHandler {
         if (list_ == "numFmts" && name == "numFmt") {
             const auto id = attributes.number("numFmtId");
             const auto code = attributes.find("formatCode");
-            if (id && code) codes_.insert_or_assign(*id, without_escapes(*code));
+            if (id && code && codes_.size() < most_formats) codes_.insert_or_assign(*id, without_escapes(*code));
         } else if (list_ == "fonts" && name == "font") {
             fonts_.emplace_back();
         } else if (list_ == "cellStyleXfs" && name == "xf") {

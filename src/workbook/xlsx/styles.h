@@ -4,6 +4,7 @@
 
 #include "workbook/book/model.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <expected>
 #include <string>
@@ -13,6 +14,9 @@
 namespace tavelo {
 
 class Package;
+
+// Further number formats are left out, so that their cells are General. Excel stops far below, at 250 or so.
+inline constexpr std::size_t most_formats = 16384;
 
 struct Styles {
     std::vector<std::string> formats{""};    // each code once; the first is General

@@ -48,7 +48,7 @@ class WorkbookPartHandler : public XmlHandler {
 
 class SharedStringsHandler : public XmlHandler {
   public:
-    explicit SharedStringsHandler(std::vector<std::string>& texts) : texts_(texts) {}
+    explicit SharedStringsHandler(TextTable& texts) : texts_(texts) {}
 
     void element_start(std::string_view name, unsigned depth, const XmlAttributes& attributes) override {
         if (depth > 2) rich_text_.element_start(name, attributes);
@@ -56,17 +56,13 @@ class SharedStringsHandler : public XmlHandler {
     void element_end(std::string_view name, unsigned depth) override {
         if (depth > 2) rich_text_.element_end(name);
         if (depth != 2 || name != "si") return;
-        if (texts_.size() == most_strings) {
-            stopped_ = OpenFailure::too_large;
-        } else {
-            texts_.push_back(rich_text_.take());
-        }
+        if (!texts_.add(rich_text_.take())) stopped_ = OpenFailure::too_large;
     }
     void text(std::string_view piece) override { rich_text_.text(piece); }
     std::optional<OpenFailure> stopped() const override { return stopped_; }
 
   private:
-    std::vector<std::string>& texts_;
+    TextTable& texts_;
     RichText rich_text_;
     std::optional<OpenFailure> stopped_;
 };
@@ -115,10 +111,11 @@ class XlsxWorkbook : public Workbook {
 
     std::span<const SheetInfo> sheets() const override { return sheets_; }
     std::span<const std::string> formats() const override { return styles_.formats; }
-    std::span<const std::string> texts() const override { return texts_; }
+    const TextTable& texts() const override { return texts_; }
     bool dates_from_1904() const override { return from_1904_; }
 
-    std::expected<Sheet, OpenFailure> read_sheet(std::size_t index) override {
+  private:
+    std::expected<Sheet, OpenFailure> sheet_at(std::size_t index) override {
         if (index >= sheets_.size()) return std::unexpected(OpenFailure::damaged);
         const SheetKind kind = sheets_[index].kind;
         if (kind == SheetKind::chart || kind == SheetKind::dialog) return Sheet{};
@@ -128,7 +125,6 @@ class XlsxWorkbook : public Workbook {
                                {styles_, dates, shared_strings_, strings_failure_, texts_});
     }
 
-  private:
     // "" for none, also when the relationship leads to a part that the package does not hold: Excel goes on without it.
     std::string part_of_type(const Relationships& parts, std::string_view type) const {
         const Relationship* const found = parts.with_type(type);
@@ -153,7 +149,7 @@ class XlsxWorkbook : public Workbook {
     std::string strings_part_; // "" when there is none or it has been read
     std::size_t shared_strings_ = 0;
     std::optional<OpenFailure> strings_failure_;
-    std::vector<std::string> texts_;
+    TextTable texts_;
     Styles styles_;
     bool from_1904_ = false;
 };

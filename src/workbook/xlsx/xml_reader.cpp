@@ -8,6 +8,7 @@
 #include <charconv>
 #include <cmath>
 #include <memory>
+#include <new>
 #include <span>
 #include <string>
 #include <type_traits>
@@ -49,15 +50,28 @@ class Reading {
 
     void start(const XML_Char* name, const XML_Char** attributes);
     void end(const XML_Char* name);
-    void text(std::string_view piece) { handler_.text(piece); }
+    void text(std::string_view piece);
     void refuse();
 
   private:
+    // No exception may cross expat, which is C.
+    template <class Step>
+    void hand_on(Step step) {
+        if (out_of_memory_) return; // it may still call when it was told to stop
+        try {
+            step();
+        } catch (const std::bad_alloc&) {
+            out_of_memory_ = true;
+        }
+        if (out_of_memory_ || handler_.stopped()) refuse();
+    }
+
     std::unique_ptr<std::remove_pointer_t<XML_Parser>, FreeParser> parser_;
     XmlHandler& handler_;
     XML_Index fed_ = 0;
     unsigned depth_ = 0;
     bool well_formed_ = true;
+    bool out_of_memory_ = false;
 };
 
 Reading& reading_of(void* user_data) { return *static_cast<Reading*>(user_data); }
@@ -108,8 +122,10 @@ bool Reading::feed(std::span<const char> chunk) {
 }
 
 std::expected<void, OpenFailure> Reading::finish() {
-    if (!parser_) return std::unexpected(OpenFailure::unreadable);
+    if (!parser_) return std::unexpected(OpenFailure::no_memory);
     if (well_formed_) well_formed_ = XML_Parse(parser_.get(), nullptr, 0, XML_TRUE) == XML_STATUS_OK;
+    if (out_of_memory_ || XML_GetErrorCode(parser_.get()) == XML_ERROR_NO_MEMORY)
+        return std::unexpected(OpenFailure::no_memory);
     if (const auto why = handler_.stopped()) return std::unexpected(*why);
     if (!well_formed_) return std::unexpected(OpenFailure::damaged);
     return {};
@@ -117,13 +133,15 @@ std::expected<void, OpenFailure> Reading::finish() {
 
 void Reading::start(const XML_Char* name, const XML_Char** attributes) {
     if (++depth_ > deepest_level) return refuse();
-    handler_.element_start(local_name(name), depth_, XmlAttributes(attributes));
-    if (handler_.stopped()) refuse();
+    hand_on([&] { handler_.element_start(local_name(name), depth_, XmlAttributes(attributes)); });
 }
 
 void Reading::end(const XML_Char* name) {
-    handler_.element_end(local_name(name), depth_--);
-    if (handler_.stopped()) refuse();
+    hand_on([&] { handler_.element_end(local_name(name), depth_--); });
+}
+
+void Reading::text(std::string_view piece) {
+    hand_on([&] { handler_.text(piece); });
 }
 
 // expat then answers an error to whoever fed it.

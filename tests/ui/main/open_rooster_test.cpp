@@ -10,7 +10,7 @@
 
 #include <cerrno>
 #include <filesystem>
-#include <new>
+#include <stdexcept>
 
 namespace tavelo {
 namespace {
@@ -427,12 +427,14 @@ TEST_F(OpenRooster, de_vraag_om_kolomletters_komt_zonder_zandloper) {
 }
 
 TEST_F(OpenRooster, na_een_opening_die_misgaat_volgt_het_beeld_het_grid_weer) {
-    struct VolGeheugen final : ExcelApplication {
-        [[nodiscard]] Automation<std::unique_ptr<ExcelWorkbooks>> Workbooks() override { throw std::bad_alloc(); }
-    } vol;
-    Bediening misgaand{p, {meter, berichten, open_dialoog, tijdstempels, klok, muisaanwijzer, logboek, vol}, {}, {}};
+    struct Misgaand final : ExcelApplication {
+        [[nodiscard]] Automation<std::unique_ptr<ExcelWorkbooks>> Workbooks() override {
+            throw std::runtime_error("het ging mis");
+        }
+    } mis;
+    Bediening misgaand{p, {meter, berichten, open_dialoog, tijdstempels, klok, muisaanwijzer, logboek, mis}, {}, {}};
     open_dialoog.answer = pad("plan.xlsx");
-    EXPECT_THROW(open_rooster(misgaand, "", 0), std::bad_alloc);
+    EXPECT_THROW(open_rooster(misgaand, "", 0), std::runtime_error);
     EXPECT_TRUE(p.grdRooster.redraw());
     EXPECT_TRUE(p.grdExcel.redraw());
     EXPECT_EQ(muisaanwijzer.depth, 0);

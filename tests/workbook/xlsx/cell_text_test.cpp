@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace tavelo {
 namespace {
 
@@ -26,6 +28,24 @@ TEST(CellText, twee_halve_codes_zijn_samen_een_teken) {
     EXPECT_EQ(without_escapes("_xD83D__xDC0E_"), "🐎");
     EXPECT_EQ(without_escapes("_xD83D_ "), "\xEF\xBF\xBD ");
     EXPECT_EQ(without_escapes("_xDC0E_"), "\xEF\xBF\xBD");
+}
+
+TEST(OpgeslagenTekst, van_een_eindeloze_tekst_wordt_niet_meer_bewaard_dan_er_getoond_kan_worden) {
+    std::string stored;
+    for (int i = 0; i < 100; ++i)
+        append_stored(stored, std::string(10'000, 'x'));
+    EXPECT_GE(stored.size(), longest_text);
+    EXPECT_LE(stored.size(), 7 * longest_text); // that many, were each of them an escape
+
+    RichText rich;
+    for (int i = 0; i < 100; ++i) { // runs
+        rich.element_start("t", XmlAttributes(std::array<const char*, 1>{nullptr}.data()));
+        rich.text(std::string(10'000, 'x'));
+        rich.element_end("t");
+    }
+    const std::string text = rich.take();
+    EXPECT_GE(text.size(), longest_text);
+    EXPECT_LE(text.size(), longest_text_bytes + 10'000);
 }
 
 } // namespace

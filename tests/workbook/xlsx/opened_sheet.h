@@ -25,7 +25,8 @@ struct OpenedSheet {
     }
     [[nodiscard]] std::string shown(std::string_view name, std::string_view land = "nl-NL") const {
         const Cell* const found = cell(name);
-        return found == nullptr ? "(geen cel)" : DisplayedTexts(*book, locale_named(land)).of(*found);
+        return found == nullptr ? std::string("(geen cel)")
+                                : std::string(DisplayedTexts(*book, locale_named(land)).of(*found));
     }
     [[nodiscard]] std::vector<std::uint32_t> used() const {
         return {sheet.used.first_row, sheet.used.first_column, sheet.used.rows, sheet.used.columns};

@@ -1,0 +1,83 @@
+// Workbooks that are made to take the computer's memory, and a computer that has none left.
+#include "excel/builtin_excel.h"
+
+#include "excel/codeExcel.h"
+#include "fakes/heap.h"
+#include "fakes/seams.h"
+#include "fakes/temp_folder.h"
+#include "workbook/xlsx/xlsx_maker.h"
+
+#include <gtest/gtest.h>
+
+namespace tavelo {
+namespace {
+
+const std::string te_weinig = "YEP1: Er is te weinig geheugen om de werkmap te lezen.";
+
+struct Geheugen : testing::Test {
+    test::TempFolder folder;
+    std::unique_ptr<ExcelApplication> excel = builtin_excel(locale_named("nl-NL"));
+    test::FakePointer pointer;
+
+    std::string write(const test::XlsxMaker& maker) const {
+        const std::vector<std::byte> bytes = maker.bytes();
+        return folder.write("map.xlsx", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    }
+};
+
+std::string cells(std::size_t count, const std::string& cell) {
+    std::string rows;
+    for (std::size_t i = 0; i < count; ++i)
+        rows.append("<row>").append(cell).append("</row>");
+    return rows;
+}
+
+TEST_F(Geheugen, een_lange_tekst_waar_alle_cellen_naar_wijzen_blijft_binnen_de_som) {
+    const std::string file = write({.sheet_data = cells(2500, R"(<c t="s"><v>0</v></c>)"),
+                                    .shared_strings = "<si><t>" + std::string(1024 * 1024, 'x') + "</t></si>"});
+    Grid grid;
+    test::FakeMessages messages;
+    EXPECT_TRUE(lees_excel(file, 1, grid, *excel, messages, pointer));
+    EXPECT_TRUE(messages.shown.empty());
+    ASSERT_EQ(grid.rows(), 2500);
+    std::size_t bytes = 0;
+    for (int row = 0; row < grid.rows(); ++row) {
+        ASSERT_LE(grid.text(row, 0).size(), longest_text);
+        bytes += grid.text(row, 0).size();
+    }
+    EXPECT_EQ(grid.text(0, 0), std::string(longest_text, 'x'));
+    EXPECT_EQ(grid.text(2499, 0), "");
+    EXPECT_EQ(bytes, most_shown_bytes / longest_text * longest_text);
+}
+
+// Each `new` in turn finds no memory, once. Whichever it is, the operator gets a sentence and an empty list, and the
+// program goes on. A failure that nobody was told of would leave a list that is not complete.
+TEST_F(Geheugen, elke_toewijzing_mag_mislukken) {
+    for (const std::string& file : {std::string(TAVELO_TEST_DATA "/workbook/startlijst.xlsx"),
+                                    std::string(TAVELO_TEST_DATA "/workbook/startlijst.xls")}) {
+        std::size_t failures = 0;
+        for (std::size_t n = 1;; ++n) {
+            Grid grid;
+            test::FakeMessages messages;
+            test::fail_allocation(n);
+            lees_excel(file, 1, grid, *excel, messages, pointer);
+            const bool failed = test::allocation_has_failed();
+            test::fail_allocation(0);
+            if (!failed) {
+                EXPECT_EQ(messages.shown, std::vector<std::string>());
+                EXPECT_EQ(grid.rows(), 4);
+                EXPECT_EQ(grid.text(1, 3), "Zoë van der Meer");
+                break;
+            }
+            ++failures;
+            ASSERT_EQ(messages.shown, std::vector<std::string>{te_weinig}) << file << ", allocation " << n;
+            ASSERT_EQ(grid.rows(), 0);
+        }
+#ifndef __SANITIZE_ADDRESS__
+        EXPECT_GT(failures, 50U);
+#endif
+    }
+}
+
+} // namespace
+} // namespace tavelo

@@ -5,11 +5,13 @@
 #include "verhouding.h"
 
 #include "app/start.h"
+#include "basis/background_reader.h"
 #include "basis/number.h"
 #include "basis/system_time.h"
 #include "excel/builtin_excel.h"
 #include "platform/fonts.h"
 #include "platform/pointer.h"
+#include "platform/post.h"
 #include "schedule/record/kolommen.h"
 #include "ui/main/frmTavelo.h"
 
@@ -17,8 +19,10 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace tavelo {
 
@@ -41,7 +45,8 @@ struct VasteKeuze final : OpenDialog {
 };
 
 struct EchtProgramma {
-    EchtProgramma() {
+    explicit EchtProgramma(BackgroundReader::Work werk = BackgroundReader::file_work())
+        : lezer(post_to_interface, std::move(werk)) {
         Main(
             programma, opslag, [] { return false; }, venster);
     }
@@ -89,11 +94,13 @@ struct EchtProgramma {
     test::SilentLog logboek;
     LegeOpslag opslag;
     GeenMappen mappen;
+    BackgroundReader lezer;
+    std::function<void(frmTavelo&)> instellingen = [](frmTavelo&) {}; // what opening the settings does
     std::unique_ptr<ExcelApplication> excel = builtin_excel(locale_named("nl-NL"));
     Programma programma;
     Bediening bediening{
         programma, {meter, berichten, open_dialoog, tijdstempels, klok, muisaanwijzer, logboek, *excel}, {}, {}};
-    frmTavelo venster{bediening, {opslag, mappen, ".", [] {}, [](frmTavelo&) {}}};
+    frmTavelo venster{bediening, {opslag, mappen, lezer, ".", [] {}, [this](frmTavelo& v) { instellingen(v); }}};
 };
 
 } // namespace tavelo

@@ -1,6 +1,7 @@
 // Makes the real parts and wires them.
 #include "app/frmIntro.h"
 #include "app/start.h"
+#include "basis/background_reader.h"
 #include "basis/system_time.h"
 #include "excel/builtin_excel.h"
 #include "platform/application.h"
@@ -10,6 +11,7 @@
 #include "platform/fonts.h"
 #include "platform/mouse_wheel.h"
 #include "platform/pointer.h"
+#include "platform/post.h"
 #include "platform/qt_text.h"
 #include "platform/settings_store.h"
 #include "platform/special_folders.h"
@@ -38,6 +40,7 @@ int main(int argc, char** argv) {
     DebugLog logboek;
     UserSettingsStore opslag;
     SystemFolders mappen;
+    BackgroundReader lezer(post_to_interface);
     const auto excel = builtin_excel(locale_named(utf8(QLocale::system().name().replace('_', '-'))));
 
     Programma programma;
@@ -49,7 +52,7 @@ int main(int argc, char** argv) {
         frmInstellingen(bediening, kleur_dialoog, vertoond, &venster).exec();
     };
     frmTavelo venster(bediening,
-                      {opslag, mappen, utf8(QDir::toNativeSeparators(QCoreApplication::applicationDirPath())),
+                      {opslag, mappen, lezer, utf8(QDir::toNativeSeparators(QCoreApplication::applicationDirPath())),
                        toon_intro, instellingen});
     eigenaar.window = &venster;
 

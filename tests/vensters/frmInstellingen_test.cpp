@@ -1,6 +1,7 @@
 #include "ui/settings/frmInstellingen.h"
 
 #include "app/start.h"
+#include "fakes/file_readers.h"
 #include "platform/codeWindowPos.h"
 #include "platform/qt_text.h"
 #include "ui/main/frmTavelo.h"
@@ -620,7 +621,8 @@ TEST(FrmInstellingenMetHoofdvenster, voorbeeld_en_deelnemersvenster_volgen_elke_
     test::FakeColourDialog kleuren;
     test::FakeSettings opslag;
     test::FakeSpecialFolders mappen;
-    frmTavelo hoofdvenster(proef.bediening, {opslag, mappen, ".", [] {}, [](frmTavelo&) {}});
+    test::DirectReader lezer;
+    frmTavelo hoofdvenster(proef.bediening, {opslag, mappen, lezer, ".", [] {}, [](frmTavelo&) {}});
     Main(
         proef.programma, opslag, [] { return false; }, hoofdvenster);
     hoofdvenster.findChild<QAction*>("mnuPopup")->trigger();

@@ -31,7 +31,8 @@ void herlees(Bediening& bediening, const std::string& stempel, const Lezing& lez
     vul_nr_tijd(p.grdRooster, p.schedule.huidige_rubriek, geen_berichten);
 }
 
-void herlees_onder_groen_label(Bediening& bediening, const std::string& stempel, const std::function<Lezing()>& lees,
+template <class Lees>
+void herlees_onder_groen_label(Bediening& bediening, const std::string& stempel, const Lees& lees,
                                const std::function<void()>& toon_label, WijzigingenLijst* wijzigingen) {
     {
         const ScopedFlag groen(bediening.programma.herlezen_bezig, true);
@@ -44,11 +45,14 @@ void herlees_onder_groen_label(Bediening& bediening, const std::string& stempel,
 
 } // namespace
 
+bool wordt_gevolgd(const Programma& programma) {
+    // Only this word in small letters: other kinds stop at their first line. It is meant so.
+    return !programma.rooster_bestand.empty() && programma.rooster_extensie != "xls";
+}
+
 void auto_import(Bediening& bediening, const std::function<void()>& toon_label, WijzigingenLijst* wijzigingen) {
     Programma& p = bediening.programma;
-    if (p.rooster_bestand.empty()) return;
-    // Only this word in small letters: other kinds stop at their first line. It is meant so.
-    if (p.rooster_extensie == "xls") return;
+    if (!wordt_gevolgd(p)) return;
     // A stamp that went back, or none, is no reason to read: it is meant so.
     const std::string stempel =
         bestand_tijdstempel(bediening.omgeving.tijdstempels, p.rooster_bestand, tijdstempel_vorm);
@@ -56,6 +60,12 @@ void auto_import(Bediening& bediening, const std::function<void()>& toon_label, 
 
     herlees_onder_groen_label(
         bediening, stempel, [&p] { return open_roosterbestand(p.rooster_bestand); }, toon_label, wijzigingen);
+}
+
+void verwerk_herlezing(Bediening& bediening, const std::string& stempel, const Lezing& lezing,
+                       const std::function<void()>& toon_label, WijzigingenLijst* wijzigingen) {
+    herlees_onder_groen_label(
+        bediening, stempel, [&lezing]() -> const Lezing& { return lezing; }, toon_label, wijzigingen);
 }
 
 } // namespace tavelo

@@ -4,7 +4,6 @@
 #include "platform/icons.h"
 #include "platform/qt_text.h"
 #include "ui/display/frmDeelnemer.h"
-#include "ui/main/auto_import.h"
 #include "ui/main/frmDetails.h"
 #include "ui/main/frmPaneel.h"
 #include "ui/main/muiswiel.h"
@@ -13,7 +12,6 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QScopedValueRollback>
 #include <QScreen>
 #include <QWheelEvent>
 
@@ -45,13 +43,14 @@ Rechthoek twipsvlak(const QRect& r) { return {twips(r.x()), twips(r.y()), twips(
 } // namespace
 
 frmTavelo::frmTavelo(Bediening& bediening, TaveloOmgeving omgeving)
-    : bediening_(bediening), programma_(bediening.programma), omgeving_(std::move(omgeving)) {
+    : bediening_(bediening),
+      programma_(bediening.programma),
+      omgeving_(std::move(omgeving)),
+      wachter_(
+          *this, bediening, omgeving_.lezer, [this] { toon_herlezing(); }, [this] { toon(); }) {
     setObjectName(QStringLiteral("frmTavelo"));
     setWindowIcon(icon(Picture::program));
     bouw_bediening();
-    timer1_.setObjectName(QStringLiteral("Timer1"));
-    timer1_.setInterval(auto_import_interval_ms);
-    connect(&timer1_, &QTimer::timeout, this, &frmTavelo::tik);
     groen_.setObjectName(QStringLiteral("TimerGroen"));
     groen_.setSingleShot(true);
     groen_.setInterval(groen_ms);
@@ -144,7 +143,7 @@ void frmTavelo::toon_venster() {
     toon();
     show();
     paneel_->txtINR().setFocus();
-    timer1_.start();
+    wachter_.begin();
 }
 
 void frmTavelo::toon() {
@@ -212,17 +211,10 @@ void frmTavelo::wissel_deelnemer() {
     deelnemer_->open();
 }
 
-void frmTavelo::tik() {
-    // A dialog may be open meanwhile, but not the middle of a read: a message of its reader waits for an answer.
-    if (tikt_ || !programma_.grdRooster.redraw()) return;
-    const QScopedValueRollback bezig(tikt_, true);
-    const std::string stempel = programma_.rooster_tijdstempel;
-    auto_import(bediening_, [this] {
-        if (programma_.herlezen_bezig) groen_.start();
-        toon_omschrijving();
-        lblRoosterOmschrijving_->repaint();
-    });
-    if (programma_.rooster_tijdstempel != stempel) toon();
+void frmTavelo::toon_herlezing() {
+    if (programma_.herlezen_bezig) groen_.start();
+    toon_omschrijving();
+    lblRoosterOmschrijving_->repaint();
 }
 
 void frmTavelo::resizeEvent(QResizeEvent* event) {
@@ -268,7 +260,7 @@ void frmTavelo::keyPressEvent(QKeyEvent* event) {
 void frmTavelo::closeEvent(QCloseEvent* event) {
     event->accept();
     if (std::exchange(afgesloten_, true)) return;
-    timer1_.stop();
+    wachter_.einde();
     sluit_af(programma_, omgeving_.opslag, bediening_.omgeving.muisaanwijzer, *this);
 }
 

@@ -6,6 +6,7 @@
 #include "ui/display/frmTekenvlak.h"
 #include "ui/main/bediening.h"
 #include "ui/main/frmRooster.h"
+#include "ui/main/frmWachter.h"
 #include "ui/main/huidige_combinatie.h"
 #include "ui/main/indeling.h"
 #include "ui/main/laad_tavelo.h"
@@ -28,6 +29,7 @@ class frmTavelo;
 struct TaveloOmgeving {
     SettingsStore& opslag;
     const SpecialFolders& mappen;
+    FileReader& lezer; // for the poll
     std::string programma_map;
     std::function<void()> toon_intro;                      // returns when the splash has closed
     std::function<void(frmTavelo& eigenaar)> instellingen; // the settings dialog, modal
@@ -68,7 +70,7 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     void open_bestand();
     void toon_instellingen();
     void wissel_deelnemer();
-    void tik();
+    void toon_herlezing();
 
     void toon_omschrijving();
     void muiswiel(QWheelEvent& gebeurtenis);
@@ -76,6 +78,7 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     Bediening& bediening_;
     Programma& programma_;
     TaveloOmgeving omgeving_;
+    Wachter wachter_;
 
     QWidget* vlak_ = nullptr; // the inside of the window
     Paneel* paneel_ = nullptr;
@@ -84,12 +87,10 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     RoosterDetails* frameRoosterinstellingen_ = nullptr;
     VertoningWidget* picDeelnemer_ = nullptr;
     QPointer<frmDeelnemer> deelnemer_;
-    QTimer timer1_{this};
     QTimer groen_{this}; // runs while the description still has to be seen in green
 
     Plaatsen ontwerp_;
     int wieldraai_ = 0; // eighths of a degree turned since the last notch
-    bool tikt_ = false; // a tick is at work
     bool afgesloten_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "ui/main/frmTavelo.h"
 
+#include "fakes/file_readers.h"
 #include "fakes/opstelling.h"
 #include "fakes/temp_folder.h"
 #include "platform/codeWindowPos.h"
@@ -22,6 +23,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <ctime>
 #include <filesystem>
 #include <iostream>
 #include <numeric>
@@ -47,6 +50,8 @@ struct FrmTavelo : testing::Test {
     test::Opstelling opstelling;
     test::FakeSettings opslag;
     test::FakeSpecialFolders mappen;
+    test::DirectReader lezer;
+    virtual FileReader& lezer_van_de_poll() { return lezer; }
     Programma& programma = opstelling.programma;
     int intros = 0;
     int instellingen_getoond = 0;
@@ -57,8 +62,8 @@ struct FrmTavelo : testing::Test {
         programma.muiswiel_aanwezig = true;
         mappen.folders[5] = map.file("documenten");
         venster = std::make_unique<frmTavelo>(
-            opstelling.bediening, TaveloOmgeving{opslag, mappen, map.file("programma"), [this] { ++intros; },
-                                                 [this](frmTavelo&) { ++instellingen_getoond; }});
+            opstelling.bediening, TaveloOmgeving{opslag, mappen, lezer_van_de_poll(), map.file("programma"),
+                                                 [this] { ++intros; }, [this](frmTavelo&) { ++instellingen_getoond; }});
         venster->laad();
         QCoreApplication::processEvents();
     }
@@ -436,12 +441,32 @@ struct FrmTaveloTik : FrmTavelo {
     void SetUp() override {
         FrmTavelo::SetUp();
         pad = map.write("volg.rst", roosterbestand({1, 2, 3}));
-        opstelling.tijdstempels.stamps[pad] = {2026, 6, 13, 9, 0, 0};
+        zet_tijd({2026, 6, 13, 9, 0, 0});
         open(pad);
+    }
+    // When the file was changed, for who opens it and for the poll. A file that is gone has no time for the poll.
+    void zet_tijd(const LocalTime& tijd) {
+        opstelling.tijdstempels.stamps[pad] = tijd;
+        std::tm delen{};
+        delen.tm_year = tijd.year - 1900;
+        delen.tm_mon = tijd.month - 1;
+        delen.tm_mday = tijd.day;
+        delen.tm_hour = tijd.hour;
+        delen.tm_min = tijd.minute;
+        delen.tm_sec = tijd.second;
+        delen.tm_isdst = -1;
+        const auto punt = std::chrono::system_clock::from_time_t(std::mktime(&delen));
+        std::error_code weg;
+        std::filesystem::last_write_time(pad, std::chrono::file_clock::from_sys(punt), weg);
+    }
+    void een_minuut_later() {
+        LocalTime tijd = opstelling.tijdstempels.stamps[pad];
+        ++tijd.minute;
+        zet_tijd(tijd);
     }
     void herschrijf(const std::vector<int>& nummers, const std::string& naam = "Ruiter") {
         map.write("volg.rst", roosterbestand(nummers, naam));
-        opstelling.tijdstempels.stamps[pad].minute += 1;
+        een_minuut_later();
     }
     void tik() const { QMetaObject::invokeMethod(&vind<QTimer>("Timer1"), "timeout", Qt::DirectConnection); }
     // What the screen's next frame would ask for, without waiting for it.
@@ -499,7 +524,7 @@ TEST_F(FrmTaveloTik, drie_gewijzigde_cellen_hertekenen_drie_cellen_en_laten_lijs
     for (const char* paard : {"Paard 21\r", "Paard 22\r", "Paard 24\r"})
         tekst.replace(tekst.find(paard), 5, "Pony");
     map.write("volg.rst", tekst);
-    opstelling.tijdstempels.stamps[pad].minute += 1;
+    een_minuut_later();
     tik();
     schilder();
 
@@ -535,7 +560,7 @@ TEST_F(FrmTaveloTik, de_lijst_op_het_scherm_volgt_duizenden_herschreven_en_gehav
         if (toeval.een_op(4)) std::filesystem::remove(pad);
         if (!toeval.een_op(5)) std::filesystem::rename(map.write("volg.nieuw", tekst), pad);
         if (toeval.een_op(3)) programma.grdRooster.set_top_row(1 + toeval.onder(60));
-        opstelling.tijdstempels.stamps[pad] = {2026, 6, 13, 10 + stap / 3600, stap / 60 % 60, stap % 60};
+        zet_tijd({2026, 6, 13, 10 + stap / 3600, stap / 60 % 60, stap % 60});
         tik();
 
         const Grid& grid = programma.grdRooster;
@@ -578,6 +603,46 @@ TEST_F(FrmTaveloTik, het_label_wordt_groen_zodra_het_lezen_begint_lang_genoeg_om
     groen.stop();
     QMetaObject::invokeMethod(&groen, "timeout", Qt::DirectConnection);
     EXPECT_EQ(label.palette().color(QPalette::Window), gewoon);
+}
+
+TEST_F(FrmTaveloTik, een_pas_gewijzigd_bestand_wordt_twee_seconden_later_nog_eens_bekeken) {
+    auto& nog_eens = vind<QTimer>("TimerNogeens");
+    EXPECT_EQ(nog_eens.interval(), 2000);
+    map.write("volg.rst", roosterbestand({1, 2, 3, 4}));
+    const auto morgen = std::filesystem::file_time_type::clock::now() + std::chrono::hours(24);
+    std::filesystem::last_write_time(pad, morgen); // newer, and not older than two seconds however slow the test is
+    tik();
+    EXPECT_EQ(grdRooster().model()->rowCount(), 3);
+    EXPECT_TRUE(nog_eens.isActive());
+    nog_eens.stop();
+    QMetaObject::invokeMethod(&nog_eens, "timeout", Qt::DirectConnection);
+    EXPECT_EQ(grdRooster().model()->rowCount(), 4);
+    std::filesystem::last_write_time(pad, morgen + std::chrono::seconds(1));
+    tik();
+    EXPECT_TRUE(nog_eens.isActive());
+    venster->close();
+    EXPECT_FALSE(nog_eens.isActive());
+}
+
+// A share that has not answered yet.
+struct FrmTaveloTraag : FrmTavelo {
+    test::FakeReader share;
+    FileReader& lezer_van_de_poll() override { return share; }
+};
+
+TEST_F(FrmTaveloTraag, zolang_de_share_niet_antwoordt_gaat_het_werk_door_en_het_programma_dicht) {
+    open_nummers({3, 1, 12});
+    const std::string pad = programma.rooster_bestand;
+    QMetaObject::invokeMethod(&vind<QTimer>("Timer1"), "timeout", Qt::DirectConnection);
+    ASSERT_EQ(share.looks_at, pad);
+    typ("12");
+    EXPECT_EQ(programma.huidige_regel, 3);
+    EXPECT_EQ(grdRooster().currentIndex().row(), 2);
+    EXPECT_EQ(opstelling.muisaanwijzer.depth, 0); // no hourglass: nobody waits
+    venster->close();
+    EXPECT_EQ(opslag.flushes, 1);
+    venster.reset();
+    EXPECT_EQ(share.forgotten, 1);
 }
 
 TEST_F(FrmTaveloTik, midden_in_het_lezen_gebeurt_er_niets) {

@@ -26,6 +26,7 @@ for target in "${targets[@]}"; do
     case $target in
     *xlsx*) find examples tests fuzz -name '*.xlsx*' -exec cp --target-directory="$seeds" {} + ;;
     *xls*) find examples tests -name '*.xls' -exec cp --target-directory="$seeds" {} + ;;
+    *lookalike*) cp --target-directory="$seeds" fuzz/seeds/lookalike/* ;;
     *schedule*) cp --target-directory="$seeds" examples/*.rst ;;
     *merge*) cat examples/dressuur.rst examples/springen.rst >"$seeds/ander"; cat examples/mennen.rst{,} >"$seeds/zelfde" ;;
     esac

@@ -1,5 +1,6 @@
 #include "workbook/workbook.h"
 
+#include "workbook/lookalike/lookalike.h"
 #include "workbook/xlsx/locked_package.h"
 
 #include <filesystem>
@@ -41,13 +42,21 @@ bool begins_as_zip(const std::vector<std::byte>& bytes) {
     return bytes.size() >= 2 && bytes[0] == std::byte{'P'} && bytes[1] == std::byte{'K'};
 }
 
+// Excel keeps the name of who has a workbook open in a small file beside it, which a file dialog may show too.
+bool is_owner_file(std::string_view file, const std::vector<std::byte>& bytes) {
+    constexpr std::size_t longest = 1024; // 165 bytes, in fact
+    const auto name = file.substr(file.find_last_of("/\\") + 1);
+    return name.starts_with("~$") && bytes.size() <= longest && !begins_as_zip(bytes) && !begins_as_xls(bytes);
+}
+
 std::expected<std::unique_ptr<Workbook>, OpenFailure> open_by_content(std::vector<std::byte> bytes) {
-    if (bytes.empty()) return std::unexpected(OpenFailure::damaged);
+    if (bytes.empty()) return std::unexpected(OpenFailure::empty);
     if (begins_as_zip(bytes)) return open_xlsx(std::move(bytes));
     auto package = unlocked_package(bytes);
     if (package) return open_xlsx(std::move(*package));
     if (package.error() != OpenFailure::not_a_workbook) return std::unexpected(package.error());
-    return open_xls(std::move(bytes));
+    if (begins_as_xls(bytes)) return open_xls(std::move(bytes));
+    return open_text_lookalike(std::move(bytes));
 }
 
 } // namespace
@@ -55,6 +64,7 @@ std::expected<std::unique_ptr<Workbook>, OpenFailure> open_by_content(std::vecto
 std::expected<std::unique_ptr<Workbook>, OpenFailure> open_workbook(std::string_view file) try {
     auto bytes = read_whole_file(file);
     if (!bytes) return std::unexpected(bytes.error());
+    if (is_owner_file(file, *bytes)) return std::unexpected(OpenFailure::owner_file);
     return open_by_content(std::move(*bytes));
 } catch (const std::bad_alloc&) {
     return std::unexpected(OpenFailure::no_memory);
@@ -82,6 +92,12 @@ std::string_view sentence_of(OpenFailure failure) {
         return "De werkmap is te groot om te lezen.";
     case OpenFailure::no_memory:
         return "Er is te weinig geheugen om de werkmap te lezen.";
+    case OpenFailure::empty:
+        return "Het bestand is leeg of nog niet opgeslagen.";
+    case OpenFailure::binary_workbook:
+        return "Dit is een binaire Excel-werkmap (.xlsb): sla de werkmap op als .xlsx.";
+    case OpenFailure::owner_file:
+        return "Dit is een tijdelijk bestand van Excel (~$): kies de werkmap zelf.";
     }
     return "De werkmap kan niet worden geopend.";
 }

@@ -2,7 +2,10 @@
 // all that the other rooms include.
 //
 // Reads .xlsx (also strict, also with macros) and .xls from Excel 2 to 2003; the content decides which, never the name.
-// A workbook that is locked under the password that Excel itself tries first opens as if it were not locked.
+// A workbook that is locked under the password that Excel itself tries first opens as if it were not locked. Also what
+// portals and other programs export under those names: a page with a table, the spreadsheet in XML of Excel 2003, an
+// OpenDocument spreadsheet, and rows of text with tabs, semicolons or commas (workbook/lookalike). In pages and rows of
+// text nothing is a number or a date: 007 stays 007.
 //
 //     auto book = open_workbook(file);                    // or why not: OpenFailure, and sentence_of in Dutch
 //     auto sheet = (*book)->read_sheet(0);                // cells, used range, column widths
@@ -50,7 +53,8 @@ inline constexpr std::uintmax_t largest_workbook_file = 256U * 1024 * 1024;
 
 // `file` is a UTF-8 path. The content decides which reader it gets and the extension does not: Excel too opens an .xlsx
 // that is named .xls. The file is read whole and closed before this returns, without a lock, so that who is editing it
-// can go on saving. An empty file is damaged: that is how a file begins that is being saved.
+// can go on saving. A file of
+// Excel's own beside an open workbook (~$) is owner_file, by its name.
 [[nodiscard]] std::expected<std::unique_ptr<Workbook>, OpenFailure> open_workbook(std::string_view file);
 
 // The same for a file that is in memory.

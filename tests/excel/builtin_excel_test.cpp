@@ -151,5 +151,57 @@ TEST_F(BuiltinExcel, een_startlijst_wordt_door_de_letters_van_de_instellingen_he
     EXPECT_TRUE(messages.shown.empty());
 }
 
+// A file that is gone again behind the test.
+struct WrittenFile {
+    WrittenFile(const std::string& name, std::string_view content)
+        : path((std::filesystem::temp_directory_path() / name).string()) {
+        std::ofstream(path, std::ios::binary).write(content.data(), static_cast<std::streamsize>(content.size()));
+    }
+    ~WrittenFile() { std::filesystem::remove(path); }
+    std::string path;
+};
+
+TEST_F(BuiltinExcel, een_lijst_uit_een_portaal_is_een_pagina_die_xls_heet) {
+    const WrittenFile file("tavelo_portaal.xls",
+                           R"(<html><head><meta charset="windows-1252"></head><body>
+<table><tr><td>Export van zondag</td></tr></table>
+<table border="1"><tr><th>Nr</th><th>Hnr</th><th colspan="2">Ruiter</th><th>Paard</th></tr>
+<tr><td>1</td><td>007</td><td>Zo&euml; van der Meer</td><td>(HC)</td><td>Bonfire &amp; co</td></tr>
+<tr><td>1-2</td><td>012</td><td>Dani)"
+                           "\xEBl M\xFC"
+                           "ller"
+                           R"(</td><td>&nbsp;</td><td>Don<br>Olymbrio</td></tr></table></body></html>)");
+    Programma programma;
+    programma.instellingen.col_startnumber = "A";
+    programma.instellingen.col_hnr = "B";
+    programma.instellingen.col_rider_name = "C";
+    programma.instellingen.col_horse_name = "E";
+    EXPECT_TRUE(lees_excel(file.path, 1, programma.grdExcel, *excel, messages, pointer));
+    ASSERT_EQ(programma.grdExcel.rows(), 3);
+    ASSERT_EQ(programma.grdExcel.columns(), 5);
+    vul_xls_rooster(programma.grdRooster, programma.grdExcel, Meldingen::tonen, programma, messages, pointer);
+    ASSERT_EQ(programma.grdRooster.rows(), 4);
+    EXPECT_EQ(programma.grdRooster.text(1, kolom_naam), "Ruiter");
+    EXPECT_EQ(programma.grdRooster.text(2, kolom_hnr), "007");
+    EXPECT_EQ(programma.grdRooster.text(2, kolom_naam), "Zoë van der Meer");
+    EXPECT_EQ(programma.grdRooster.text(3, kolom_nrtijd), "1-2");
+    EXPECT_EQ(programma.grdRooster.text(3, kolom_naam), "Daniël Müller");
+    EXPECT_EQ(programma.grdRooster.text(3, kolom_paard), "Don\nOlymbrio");
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(BuiltinExcel, wat_niet_open_kan_zegt_waarom) {
+    const WrittenFile empty("tavelo_leeg.xls", "");
+    const WrittenFile owner("~$tavelo_zondag.xlsx", std::string_view("\x04Jans\0", 6));
+    const WrittenFile letter("tavelo_brief.xls", "Een brief.");
+    for (const WrittenFile* file : {&empty, &owner, &letter})
+        EXPECT_TRUE(lees(file->path));
+    EXPECT_EQ(messages.shown,
+              (std::vector<std::string>{"YEP1: Het bestand is leeg of nog niet opgeslagen.",
+                                        "YEP1: Dit is een tijdelijk bestand van Excel (~$): kies de werkmap zelf.",
+                                        "YEP1: Het bestand is geen Excel-werkmap."}));
+    EXPECT_EQ(grid.rows(), 0);
+}
+
 } // namespace
 } // namespace tavelo

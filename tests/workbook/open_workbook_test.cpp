@@ -55,13 +55,33 @@ TEST_F(OpenWorkbook, elke_mislukking_heeft_haar_eigen_reden) {
     EXPECT_EQ(open_workbook((folder / "weg.xlsx").string()).error(), OpenFailure::not_found);
     EXPECT_EQ(open_workbook(std::string_view("")).error(), OpenFailure::not_found);
     EXPECT_EQ(open_workbook(folder.string()).error(), OpenFailure::unreadable);
-    EXPECT_EQ(open_workbook(write("leeg.xlsx", "")).error(), OpenFailure::damaged);
+    EXPECT_EQ(open_workbook(write("leeg.xlsx", "")).error(), OpenFailure::empty);
+    EXPECT_EQ(open_workbook(write("witruimte.xls", " \r\n")).error(), OpenFailure::empty);
     EXPECT_EQ(open_workbook(write("lijst.xls", "<html><table></table></html>")).error(), OpenFailure::not_a_workbook);
-    EXPECT_EQ(open_workbook(write("lijst.xlsx", "nr;naam\r\n1;Amber\r\n")).error(), OpenFailure::not_a_workbook);
+    EXPECT_EQ(open_workbook(write("brief.xlsx", "Een brief.\r\nGeen lijst.\r\n")).error(), OpenFailure::not_a_workbook);
 
     auto half = simple.bytes();
     half.resize(half.size() - 30);
     EXPECT_EQ(open_workbook(write("half.xlsx", half)).error(), OpenFailure::damaged);
+}
+
+TEST_F(OpenWorkbook, het_tijdelijke_bestand_van_excel_wordt_zo_genoemd) {
+    const std::string owner =
+        std::string("\x04") + "Jans" + std::string(49, ' ') + std::string("\x04\0J\0a\0n\0s\0", 10);
+    EXPECT_EQ(open_workbook(write("~$zondag.xlsx", owner)).error(), OpenFailure::owner_file);
+    EXPECT_EQ(open_workbook(write("zondag.xlsx", owner)).error(), OpenFailure::not_a_workbook);
+    EXPECT_TRUE(open_workbook(write("~$echt.xlsx", simple.bytes())).has_value());
+    EXPECT_TRUE(open_workbook(write("~$lang.xls", "nr;naam\n" + std::string(2000, 'x') + ";y\n")).has_value());
+}
+
+TEST_F(OpenWorkbook, wat_iets_anders_is_gaat_open_onder_elke_naam) {
+    const auto shown = [this](const std::string& name, std::string_view content) {
+        auto book = open_workbook(write(name, content));
+        return book ? blad_als_csv(**book, 1, locale_named("nl-NL")).value_or("")
+                    : std::string(sentence_of(book.error()));
+    };
+    EXPECT_EQ(shown("a.xlsx", "nr;naam\r\n007;Amber\r\n"), "nr,naam\r\n007,Amber\r\n");
+    EXPECT_EQ(shown("b.xls", "<table><tr><td>nr</td></tr><tr><td>007</td></tr></table>"), "nr\r\n007\r\n");
 }
 
 TEST(OpenFailureZin, elke_reden_heeft_een_eigen_zin) {
@@ -72,6 +92,11 @@ TEST(OpenFailureZin, elke_reden_heeft_een_eigen_zin) {
     EXPECT_EQ(sentence_of(OpenFailure::damaged), "De werkmap is beschadigd of nog niet helemaal opgeslagen.");
     EXPECT_EQ(sentence_of(OpenFailure::password), "De werkmap is met een wachtwoord beveiligd.");
     EXPECT_EQ(sentence_of(OpenFailure::too_large), "De werkmap is te groot om te lezen.");
+    EXPECT_EQ(sentence_of(OpenFailure::empty), "Het bestand is leeg of nog niet opgeslagen.");
+    EXPECT_EQ(sentence_of(OpenFailure::binary_workbook),
+              "Dit is een binaire Excel-werkmap (.xlsb): sla de werkmap op als .xlsx.");
+    EXPECT_EQ(sentence_of(OpenFailure::owner_file),
+              "Dit is een tijdelijk bestand van Excel (~$): kies de werkmap zelf.");
 }
 
 } // namespace

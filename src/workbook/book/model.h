@@ -66,7 +66,8 @@ struct Sheet {
 };
 
 // damaged: broken, or saved for a part only. too_large: what a reader refuses to unpack, a zip bomb for instance.
-// no_memory: this computer cannot hold what another one can.
+// no_memory: this computer cannot hold what another one can. binary_workbook: an .xlsb, which is not read. owner_file:
+// the ~$ file that Excel keeps beside a workbook that is open.
 enum class OpenFailure : std::uint8_t {
     not_found,
     unreadable,
@@ -74,8 +75,15 @@ enum class OpenFailure : std::uint8_t {
     damaged,
     password,
     too_large,
-    no_memory
+    no_memory,
+    empty,
+    binary_workbook,
+    owner_file
 };
+
+// What a sheet of Excel can have.
+inline constexpr std::uint32_t sheet_rows = 1048576;
+inline constexpr std::uint32_t sheet_columns = 16384;
 
 // A sheet with more stored cells than this is refused as too large: they would take more than 200 MB.
 inline constexpr std::size_t most_cells = std::size_t{1} << 23;
@@ -107,5 +115,7 @@ class Workbook {
 // std::bad_alloc.
 [[nodiscard]] std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xlsx(std::vector<std::byte> bytes);
 [[nodiscard]] std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xls(std::vector<std::byte> bytes);
+// A compound file, or a stream of records without one.
+[[nodiscard]] bool begins_as_xls(std::span<const std::byte> bytes);
 
 } // namespace tavelo

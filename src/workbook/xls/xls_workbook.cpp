@@ -231,6 +231,12 @@ bool is_bare_stream(ByteSpan file) {
 
 } // namespace
 
+bool begins_as_xls(std::span<const std::byte> bytes) {
+    constexpr std::uint32_t first_half = 0xE011CFD0;
+    constexpr std::uint32_t second_half = 0xE11AB1A1;
+    return (long_at(bytes, 0) == first_half && long_at(bytes, 4) == second_half) || is_bare_stream(bytes);
+}
+
 std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xls(std::vector<std::byte> bytes) {
     if (!is_bare_stream(bytes)) {
         auto stream = workbook_stream(bytes);

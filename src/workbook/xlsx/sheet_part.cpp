@@ -41,29 +41,6 @@ std::optional<Number> number_of(std::string_view text) {
     return number;
 }
 
-std::optional<CellError> error_of(std::string_view text) {
-    using enum CellError;
-    constexpr std::array<std::pair<std::string_view, CellError>, 13> errors{{
-        {"#NULL!", null},
-        {"#DIV/0!", division},
-        {"#VALUE!", value},
-        {"#REF!", reference},
-        {"#NAME?", name},
-        {"#NUM!", number},
-        {"#N/A", not_available},
-        {"#GETTING_DATA", getting_data},
-        {"#SPILL!", spill},
-        {"#CONNECT!", connect},
-        {"#BLOCKED!", blocked},
-        {"#FIELD!", field},
-        {"#CALC!", calc},
-    }};
-    for (const auto& [word, code] : errors) {
-        if (word == text) return code;
-    }
-    return std::nullopt;
-}
-
 // The box around what is used so far: cells, formatted blanks among them, and rows and columns with a look of their
 // own.
 class UsedBox {
@@ -338,6 +315,29 @@ class SheetHandler : public XmlHandler {
 };
 
 } // namespace
+
+std::optional<CellError> error_of(std::string_view word) {
+    using enum CellError;
+    constexpr std::array<std::pair<std::string_view, CellError>, 13> errors{{
+        {"#NULL!", null},
+        {"#DIV/0!", division},
+        {"#VALUE!", value},
+        {"#REF!", reference},
+        {"#NAME?", name},
+        {"#NUM!", number},
+        {"#N/A", not_available},
+        {"#GETTING_DATA", getting_data},
+        {"#SPILL!", spill},
+        {"#CONNECT!", connect},
+        {"#BLOCKED!", blocked},
+        {"#FIELD!", field},
+        {"#CALC!", calc},
+    }};
+    for (const auto& [known, code] : errors) {
+        if (known == word) return code;
+    }
+    return std::nullopt;
+}
 
 std::optional<CellPlace> parse_cell_reference(std::string_view reference) {
     CellPlace place;

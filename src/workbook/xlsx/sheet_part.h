@@ -16,9 +16,6 @@ namespace tavelo {
 
 class Package;
 
-inline constexpr std::uint32_t sheet_rows = 1048576;
-inline constexpr std::uint32_t sheet_columns = 16384;
-
 struct CellPlace {
     std::optional<std::uint32_t> row; // from 0; absent in a reference of letters alone
     std::uint32_t column = 0;         // from 0
@@ -27,6 +24,9 @@ struct CellPlace {
 // The place that "AB12" names, "$" and lower case allowed. Nothing for a text that is no reference or lies beyond the
 // sheet.
 [[nodiscard]] std::optional<CellPlace> parse_cell_reference(std::string_view reference);
+
+// The error that a file writes as this word, "#N/A" for instance. Nothing for another word.
+[[nodiscard]] std::optional<CellError> error_of(std::string_view word);
 
 // What a worksheet part needs of its workbook.
 struct SheetContext {

@@ -1,6 +1,7 @@
 // The .xlsx workbook: finds its parts by their relationships and reads them when they are asked for.
 #include "workbook/book/model.h"
 
+#include "workbook/lookalike/lookalike.h"
 #include "workbook/text/number_format.h"
 #include "workbook/xlsx/cell_text.h"
 #include "workbook/xlsx/package.h"
@@ -82,8 +83,9 @@ class XlsxWorkbook : public Workbook {
         const auto top = Relationships::of(*package_, "");
         if (!top) return std::unexpected(top.error());
         const Relationship* const main = top->with_type("officeDocument");
-        // A binary workbook (.xlsb) is packed alike and written in another language.
-        if (main == nullptr || main->target.ends_with(".bin")) return std::unexpected(OpenFailure::not_a_workbook);
+        if (main == nullptr) return std::unexpected(OpenFailure::not_a_workbook);
+        // Packed alike and written in another language.
+        if (main->target.ends_with(".bin")) return std::unexpected(OpenFailure::binary_workbook);
 
         WorkbookPartHandler book;
         const auto read = read_xml(*package_, main->target, largest_list_part, book);
@@ -159,6 +161,7 @@ class XlsxWorkbook : public Workbook {
 std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xlsx(std::vector<std::byte> bytes) {
     auto package = Package::open(std::move(bytes));
     if (!package) return std::unexpected(package.error());
+    if (is_open_document(**package)) return open_open_document(std::move(*package));
     auto book = std::make_unique<XlsxWorkbook>(std::move(*package));
     if (const auto opened = book->open(); !opened) return std::unexpected(opened.error());
     return book;

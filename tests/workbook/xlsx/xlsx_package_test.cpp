@@ -154,7 +154,7 @@ TEST(XlsxPakket, wat_geen_zip_is_of_geen_werkmap) {
     Parts binary = simple.parts();
     replace_part(binary, "_rels/.rels", replaced_in(part(binary, "_rels/.rels"), "xl/workbook.xml", "xl/workbook.bin"));
     rename_part(binary, "xl/workbook.xml", "xl/workbook.bin");
-    EXPECT_EQ(open_failure(zip_of(binary)), OpenFailure::not_a_workbook);
+    EXPECT_EQ(open_failure(zip_of(binary)), OpenFailure::binary_workbook);
 }
 
 TEST(XlsxPakket, een_half_geschreven_of_kapotte_werkmap_is_beschadigd) {

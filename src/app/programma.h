@@ -26,6 +26,14 @@ struct RoosterSlot {
     std::string extensie;    // "rst", "xls" (for .xlsx as well) or ""
 };
 
+// Which list stands in the grid.
+struct OpenLijst {
+    int slot = 0;
+    std::string bestand;   // "" before the first opening
+    int lezing = 0;        // counts the openings, of whatever file
+    bool wijkt_af = false; // its members or their order are not those of the file as it was re-read last
+};
+
 struct Programma {
     Instellingen instellingen;
     Paden paden;
@@ -49,6 +57,8 @@ struct Programma {
     // could not be read.
     std::optional<Bestandskenmerk> rooster_kenmerk;
     std::optional<GeenRooster> leesfout; // of the last read of that file
+
+    OpenLijst lijst;
 
     // The number box and the current combination. The row is 0 for none.
     std::string txtINR;

@@ -2,6 +2,7 @@
 // pixels of the desktop.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -24,6 +25,9 @@ struct Scherm {
     std::string naam;
     Schermvlak vlak;
 };
+
+// How an open participant window stands.
+enum class Monitorvenster : std::uint8_t { gewoon, beeldvullend, monitor_weg };
 
 // The area that two rectangles share.
 [[nodiscard]] long long overlap(const Schermvlak& a, const Schermvlak& b);

@@ -15,6 +15,26 @@ void neem_stempel_over(Programma& p, const std::string& stempel) {
         p.slots[static_cast<std::size_t>(p.rooster_slot)].tijdstempel = stempel;
 }
 
+// Keeps the report for the operator and passes it on.
+class Verslaggever final : public WijzigingenLijst {
+  public:
+    Verslaggever(Dagverslag& dagverslag, WijzigingenLijst* ook) : dagverslag_(dagverslag), ook_(ook) {}
+    void regel(std::string_view tekst) override {
+        dagverslag_.regel(tekst);
+        if (ook_) ook_->regel(tekst);
+    }
+
+  private:
+    Dagverslag& dagverslag_;
+    WijzigingenLijst* ook_;
+};
+
+// What the status line tells about the list after a re-read.
+void neem_lijst_over(Programma& p) {
+    if (p.lijst.bestand != p.rooster_bestand) p.lijst = {p.rooster_slot, p.rooster_bestand, p.lijst.lezing + 1, false};
+    p.lijst.wijkt_af = wijkt_af(p.grdRooster, p.grdImport);
+}
+
 using Lezing = std::expected<Roosterbestand, GeenRooster>;
 
 void herlees(Bediening& bediening, const std::string& stempel, const Lezing& lezing, WijzigingenLijst* wijzigingen) {
@@ -23,12 +43,16 @@ void herlees(Bediening& bediening, const std::string& stempel, const Lezing& lez
     noteer_lezing(bediening, lezing ? std::nullopt : std::optional(lezing.error()));
     if (!lezing) return;
     const RoosterDoel doel{p.grdRooster, p.schedule, p.labels, geen_berichten, bediening.omgeving.logboek};
-    herlees_rooster(*lezing, doel, p.grdImport, wijzigingen);
+    Verslaggever verslag(bediening.dagverslag, wijzigingen);
+    bediening.dagverslag.begin(bediening.omgeving.klok.now());
+    herlees_rooster(*lezing, doel, p.grdImport, &verslag);
+    bediening.dagverslag.einde();
     neem_stempel_over(p, stempel);
     p.rooster_kenmerk = lezing->kenmerk;
     p.bijschrift = rooster_bijschrift(p.schedule, p.rooster_bestand);
     vul_rubriek_labels(p.schedule, p.labels);
     vul_nr_tijd(p.grdRooster, p.schedule.huidige_rubriek, geen_berichten);
+    neem_lijst_over(p);
 }
 
 template <class Lees>

@@ -5,7 +5,10 @@
 #include "app/programma.h"
 #include "basis/seams.h"
 #include "excel/automation.h"
+#include "ui/display/schermkeuze.h"
 #include "ui/display/tekenvlak.h"
+#include "ui/main/dagverslag.h"
+#include "ui/main/op_monitor.h"
 
 namespace tavelo {
 
@@ -26,6 +29,11 @@ struct Bediening {
     Omgeving omgeving;
     Vertoning voorbeeld;         // preview on the main window
     Vertoning deelnemer_venster; // the participant window, while it is open
+
+    // For the operator alone; none of it reaches a display.
+    OpMonitor op_monitor{};
+    Monitorvenster monitorvenster = Monitorvenster::gewoon; // while the participant window is open
+    Dagverslag dagverslag{};
 };
 
 } // namespace tavelo

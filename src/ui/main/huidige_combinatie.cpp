@@ -110,6 +110,7 @@ void toon_voorbeeld(Bediening& bediening) {
     const Programma& p = bediening.programma;
     toon_combinatie(bediening.voorbeeld, p.huidig_nummer, p.huidige_regel, p.huidig_naam, p, bediening.omgeving.meter,
                     bediening.omgeving.klok);
+    if (!p.deelnemer_open) bediening.op_monitor = op_monitor_nu(p, bediening.omgeving.klok);
 }
 
 void toon_deelnemer_venster(Bediening& bediening) {
@@ -117,6 +118,7 @@ void toon_deelnemer_venster(Bediening& bediening) {
     if (!p.deelnemer_open) return;
     toon_combinatie(bediening.deelnemer_venster, p.huidig_nummer, p.huidige_regel, p.huidig_naam, p,
                     bediening.omgeving.meter, bediening.omgeving.klok);
+    bediening.op_monitor = op_monitor_nu(p, bediening.omgeving.klok);
 }
 
 void toon_overal(Bediening& bediening) {

@@ -133,6 +133,7 @@ void laad_rooster(Bediening& bediening, int slot) {
     const Omgeving& omgeving = bediening.omgeving;
     wis_rooster(bediening);
     vergeet_lezing(p);
+    p.lijst = {slot, p.rooster_bestand, p.lijst.lezing + 1, false};
     const WithoutRedraw ongezien(p.grdRooster);
     const std::string soort = slot_van(p, slot).extensie;
     if (soort == "rst") laad_roosterbestand(bediening, slot);

@@ -26,7 +26,7 @@ bool ElidedLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QLabel::event(event);
     const bool cut = fontMetrics().horizontalAdvance(text()) > contentsRect().width() - 2 * margin();
     const QPoint place = static_cast<QHelpEvent*>(event)->globalPos();
-    QToolTip::showText(place, cut ? plain_tooltip(text()) : QString(), this);
+    QToolTip::showText(place, cut ? plain_tooltip(text()) : toolTip(), this);
     return true;
 }
 

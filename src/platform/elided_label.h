@@ -1,5 +1,5 @@
-// A label that ends a text that does not fit in "…" and shows the whole of it as tooltip. Never rich text: what it
-// shows comes out of files.
+// A label that ends a text that does not fit in "…" and shows the whole of it as tooltip, in the place of its own.
+// Never rich text: what it shows comes out of files.
 #pragma once
 
 #include <QLabel>

@@ -112,6 +112,12 @@ void frmDeelnemer::zet_beeldvullend(bool beeldvullend, std::string_view normaal_
     else
         unsetCursor();
     wakker_.set(beeldvullend);
+    veranderd_();
+}
+
+Monitorvenster frmDeelnemer::stand() const {
+    if (uitgeweken_) return Monitorvenster::monitor_weg;
+    return beeldvullend() ? Monitorvenster::beeldvullend : Monitorvenster::gewoon;
 }
 
 void frmDeelnemer::wissel_weergave(std::string_view normaal_bijschrift) {
@@ -127,6 +133,7 @@ void frmDeelnemer::pas_schermen_toe(const std::vector<Scherm>& schermen) {
         wijk_uit();
     else if (uitgeweken_)
         keer_terug(eigen->vlak);
+    veranderd_();
 }
 
 void frmDeelnemer::wijk_uit() {
@@ -183,6 +190,7 @@ void frmDeelnemer::closeEvent(QCloseEvent* event) {
     gesloten_ = true;
     programma_.deelnemer_open = false; // from here on nothing is composed for it
     event->accept();
+    veranderd_();
 }
 
 } // namespace tavelo

@@ -39,6 +39,10 @@ class frmDeelnemer final : public QWidget {
     // The key F11; `normaal_bijschrift` is the caption of the normal view.
     void wissel_weergave(std::string_view normaal_bijschrift);
 
+    [[nodiscard]] Monitorvenster stand() const;
+    // Called whenever `stand` may have changed, and when it closes.
+    void bij_verandering(std::function<void()> gehoord) { veranderd_ = std::move(gehoord); }
+
     // Takes the present screens; called again whenever they change.
     void pas_schermen_toe(const std::vector<Scherm>& schermen);
 
@@ -61,6 +65,7 @@ class frmDeelnemer final : public QWidget {
 
     Programma& programma_;
     std::function<void()> stel_samen_;
+    std::function<void()> veranderd_ = [] {};
     QWidget& eigenaar_;
     const QWidget& nummervak_;
     VertoningWidget picDeelnemer_;

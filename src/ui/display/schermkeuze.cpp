@@ -97,4 +97,18 @@ Schermvlak plaats_naast(const Schermvlak& scherm, const Schermvlak& hoofdvenster
     return in_hoek(vrij, wens, onderaan);
 }
 
+Schermvlak plaats_wijzigingen(const Schermvlak& scherm, const Schermvlak& rooster) {
+    constexpr Schermvlak kleinste{0, 0, 480, 200};
+    constexpr Schermvlak grootste{0, 0, 920, 400};
+    constexpr int rand = 8;
+    const int links = rooster.rechts() + rand;
+    const int boven = std::max(rooster.boven, scherm.boven);
+    Schermvlak plaats;
+    plaats.breedte = std::clamp(scherm.rechts() - rand - links, kleinste.breedte, grootste.breedte);
+    plaats.hoogte = std::clamp(scherm.onder() - rand - boven, kleinste.hoogte, grootste.hoogte);
+    plaats.links = std::max(std::min(links, scherm.rechts() - rand - plaats.breedte), scherm.links);
+    plaats.boven = std::max(std::min(boven, scherm.onder() - rand - plaats.hoogte), scherm.boven);
+    return plaats;
+}
+
 } // namespace tavelo

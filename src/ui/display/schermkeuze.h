@@ -48,4 +48,8 @@ enum class Monitorvenster : std::uint8_t { gewoon, beeldvullend, monitor_weg };
 [[nodiscard]] Schermvlak plaats_naast(const Schermvlak& scherm, const Schermvlak& hoofdvenster,
                                       const Schermvlak& nummervak, const Schermvlak& wens);
 
+// The window with the changes of the day: on the operator's screen, to the right of the start list `rooster` where
+// there is room.
+[[nodiscard]] Schermvlak plaats_wijzigingen(const Schermvlak& scherm, const Schermvlak& rooster);
+
 } // namespace tavelo

@@ -60,6 +60,7 @@ void Dagverslag::regel(std::string_view tekst) {
 }
 
 void Dagverslag::einde() {
+    ++herlezingen_;
     samenvatting_ = tijd_ + ": ";
     if (nieuw_.empty())
         samenvatting_ += "herlezen, niets gewijzigd";

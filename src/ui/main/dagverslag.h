@@ -41,6 +41,8 @@ class Dagverslag final : public WijzigingenLijst {
     [[nodiscard]] const std::string& samenvatting() const { return samenvatting_; }
     // The newest merge first, each in the order of the list.
     [[nodiscard]] const std::deque<VerslagRij>& rijen() const { return rijen_; }
+    // Merges so far: a view that showed the report at an older count is behind.
+    [[nodiscard]] int herlezingen() const { return herlezingen_; }
     void wis();
 
   private:
@@ -49,6 +51,7 @@ class Dagverslag final : public WijzigingenLijst {
     std::deque<VerslagRij> rijen_;
     std::size_t omvang_ = 0;
     std::string samenvatting_;
+    int herlezingen_ = 0;
 
     // Of the merge that is going on.
     std::string tijd_;

@@ -3,6 +3,7 @@
 #include "platform/elided_label.h"
 #include "platform/icons.h"
 #include "platform/qt_text.h"
+#include "ui/main/statusregel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -142,6 +143,7 @@ void Paneel::bouw_snelknoppen(QHBoxLayout& rij) {
          &PaneelActies::instellingen);
     maak(2, Picture::monitor, QStringLiteral("Monitorvenster"),
          QStringLiteral("Monitorvenster openen of sluiten (Alt+P)"), &PaneelActies::monitorvenster);
+    btnFast_[2]->setCheckable(true); // down while the participant window is open
 }
 
 std::optional<int> Paneel::slot_van(const QObject* knop) const {
@@ -161,6 +163,21 @@ void Paneel::toon(const Programma& programma) {
         const QScopedValueRollback schrijft(schrijft_, true);
         txtINR_->setText(tekst);
     }
+    toon_nummer_onbekend(nummer_onbekend(programma));
+    btnFast_[2]->setChecked(programma.deelnemer_open);
+}
+
+// In colour, and in words for a screen reader.
+void Paneel::toon_nummer_onbekend(bool onbekend) {
+    constexpr std::int32_t lichtrood = 0xCFCFFF;
+    constexpr std::int32_t donkerrood = 0x00007A;
+    QPalette kleuren = palette();
+    if (onbekend) {
+        kleuren.setColor(QPalette::Base, qt_colour(lichtrood));
+        kleuren.setColor(QPalette::Text, qt_colour(donkerrood));
+    }
+    txtINR_->setPalette(kleuren);
+    txtINR_->setAccessibleDescription(onbekend ? QStringLiteral("Dit nummer staat niet in de lijst") : QString());
 }
 
 void Paneel::toon_gekozen_slot(int slot) {

@@ -62,6 +62,8 @@ class Paneel final : public QWidget {
     void bouw_slotknoppen(QHBoxLayout& rij);
     void bouw_snelknoppen(QHBoxLayout& rij);
 
+    void toon_nummer_onbekend(bool onbekend);
+
     PaneelActies acties_;
     QLineEdit* txtINR_ = nullptr;
     std::array<QToolButton*, 3> btnBlader_{};

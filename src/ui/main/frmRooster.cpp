@@ -1,15 +1,19 @@
 #include "ui/main/frmRooster.h"
 
+#include "platform/elided_label.h"
 #include "platform/qt_text.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include <algorithm>
+#include <utility>
 
 namespace tavelo {
 
@@ -41,7 +45,16 @@ int RoosterModel::columnCount(const QModelIndex& parent) const { return parent.i
 QVariant RoosterModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole) return line_of_text(grid_.text(index.row() + titelrij, index.column()));
     if (role == Qt::TextAlignmentRole) return QVariant(uitlijning(grid_.column_alignment(index.column())));
+    const bool op_monitor = index.row() + titelrij == gemerkt_;
+    if (role == merk_role) return op_monitor;
+    if (role == Qt::AccessibleDescriptionRole && op_monitor) return QStringLiteral("Op de monitor");
     return {};
+}
+
+void RoosterModel::merk(int row) {
+    for (const int changed : {std::exchange(gemerkt_, row), row})
+        if (changed >= titelrij && changed <= rows_)
+            Q_EMIT dataChanged(index(changed - titelrij, 0), index(changed - titelrij, columnCount() - 1));
 }
 
 QVariant RoosterModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -82,15 +95,35 @@ void RoosterModel::reset() {
 
 namespace {
 
-// Column 0 in the colour of the header.
+constexpr int rand_op_monitor = 6;                  // width of the edge, in device-independent pixels
+constexpr std::int32_t kleur_op_monitor = 0x2F8A1F; // green, as a light that is on
+
+// Column 0 in the colour of the header, and the row that is on the wall in bold behind an edge.
 class RoosterDelegate final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        if (index.column() != 0 || !index.data(RoosterModel::merk_role).toBool()) return;
+        painter->fillRect(QRect(option.rect.topLeft(), QSize(rand_op_monitor, option.rect.height())),
+                          qt_colour(kleur_op_monitor));
+    }
+
+    // The whole text of a cell that is cut off.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override {
+        if (event->type() != QEvent::ToolTip) return QStyledItemDelegate::helpEvent(event, view, option, index);
+        const bool cut = sizeHint(option, index).width() > option.rect.width();
+        QToolTip::showText(event->globalPos(), cut ? plain_tooltip(index.data().toString()) : QString(), view);
+        return true;
+    }
 
   protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
         QStyledItemDelegate::initStyleOption(option, index);
         option->state &= ~QStyle::State_HasFocus; // the whole row is current, not one cell
+        if (index.data(RoosterModel::merk_role).toBool()) option->font.setBold(true);
         if (index.column() == 0) option->backgroundBrush = option->palette.button();
         // Short codes, which fill their narrow columns to the edge.
         if (option->displayAlignment & Qt::AlignHCenter) option->textElideMode = Qt::ElideNone;
@@ -244,6 +277,18 @@ bool RoosterView::event(QEvent* event) {
     return done;
 }
 
+void RoosterView::zet_tekst_zonder_rijen(const QString& tekst) {
+    if (std::exchange(tekst_zonder_rijen_, tekst) != tekst) viewport()->update();
+}
+
+void RoosterView::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (tekst_zonder_rijen_.isEmpty()) return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter, tekst_zonder_rijen_);
+}
+
 void RoosterView::mousePressEvent(QMouseEvent* event) {
     const QModelIndex cell = indexAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && cell.isValid()) kies(cell.row() + titelrij);
@@ -260,7 +305,7 @@ void RoosterView::mouseReleaseEvent(QMouseEvent* /*event*/) {}
 void RoosterView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 
 void RoosterView::keyPressEvent(QKeyEvent* event) {
-    const int row = grid_.row();
+    const int row = begin_();
     const int last = grid_.rows() - 1;
     int target = row;
     switch (event->key()) {

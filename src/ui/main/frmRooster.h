@@ -28,11 +28,16 @@ class RoosterModel final : public QAbstractTableModel {
     void row_removed(int row);
     void reset();
 
+    // The row of the grid that is on the wall, 0 for none: bold, with an edge of its own.
+    void merk(int row);
+    static constexpr int merk_role = Qt::UserRole; // whether the row is that one
+
   private:
     [[nodiscard]] int data_rows() const { return std::max(grid_.rows() - 1, 0); }
 
     const Grid& grid_;
     int rows_ = 0; // as the view knows them
+    int gemerkt_ = 0;
 };
 
 class RoosterView final : public QTableView, private GridListener {
@@ -43,6 +48,12 @@ class RoosterView final : public QTableView, private GridListener {
     // The user picked the grid's current row.
     void bij_kiezen(std::function<void()> gekozen) { gekozen_ = std::move(gekozen); }
 
+    void merk(int rij) { model_.merk(rij); }
+    // The row from which the keys step; without this the grid's current one.
+    void begin_bij(std::function<int()> rij) { begin_ = std::move(rij); }
+    // What stands in grey where there are no rows.
+    void zet_tekst_zonder_rijen(const QString& tekst);
+
     // Scrolls no further than needed to bring the grid's current row into view.
     void breng_in_beeld();
     // From the top of the view to the top of the last row, in twips, at the present scroll position.
@@ -50,6 +61,7 @@ class RoosterView final : public QTableView, private GridListener {
 
   protected:
     bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -72,6 +84,8 @@ class RoosterView final : public QTableView, private GridListener {
     Grid& grid_;
     RoosterModel model_;
     std::function<void()> gekozen_;
+    std::function<int()> begin_ = [this] { return grid_.row(); };
+    QString tekst_zonder_rijen_;
     bool volgt_ = false; // the view follows the grid: what it signals meanwhile is no act of the user
 };
 

@@ -6,6 +6,8 @@
 #include "ui/display/frmDeelnemer.h"
 #include "ui/main/frmDetails.h"
 #include "ui/main/frmPaneel.h"
+#include "ui/main/frmStatus.h"
+#include "ui/main/frmWijzigingen.h"
 #include "ui/main/muiswiel.h"
 
 #include <QApplication>
@@ -37,6 +39,8 @@ QString venstertitel(std::string_view tekst) {
 QRect pixelvlak(const Rechthoek& r) {
     return {pixels(r.links), pixels(r.boven), std::max(pixels(r.breedte), 0), std::max(pixels(r.hoogte), 0)};
 }
+
+Schermvlak als_schermvlak(const QRect& r) { return {r.x(), r.y(), r.width(), r.height()}; }
 
 Rechthoek twipsvlak(const QRect& r) { return {twips(r.x()), twips(r.y()), twips(r.width()), twips(r.height())}; }
 
@@ -110,12 +114,15 @@ void frmTavelo::bouw_bediening() {
         kies_rij(bediening_);
         toon();
     });
+    grdRooster_->begin_bij([this] { return begin_van_pijltjes(bediening_); });
 
     frameRoosterinstellingen_ = new RoosterDetails(vlak_);
     picDeelnemer_ = new VertoningWidget(bediening_.voorbeeld, vlak_);
     picDeelnemer_->setAccessibleName(QStringLiteral("Voorbeeld van de monitor"));
     picDeelnemer_->setToolTip(QStringLiteral("Voorbeeld van wat op de monitor staat"));
     paneel_->zet_tabvolgorde(grdRooster_);
+    status_ = new StatusBalk([this] { toon_wijzigingen(); }, [this] { heropen(); }, this);
+    setStatusBar(status_);
 }
 
 // The places before the resize rules move them.
@@ -150,13 +157,23 @@ void frmTavelo::toon() {
     setWindowTitle(venstertitel(programma_.bijschrift));
     frameRoosterinstellingen_->toon(programma_.labels);
     toon_omschrijving();
-    paneel_->toon(programma_);
     toon_vertoningen();
 }
 
 void frmTavelo::toon_vertoningen() {
     picDeelnemer_->ververs();
     if (deelnemer_) deelnemer_->ververs();
+    toon_status();
+}
+
+// What is told to the operator alone.
+void frmTavelo::toon_status() {
+    bediening_.monitorvenster = deelnemer_ ? deelnemer_->stand() : Monitorvenster::gewoon;
+    paneel_->toon(programma_);
+    grdRooster_->merk(programma_.deelnemer_open ? rij_op_monitor(bediening_.op_monitor, programma_).value_or(0) : 0);
+    grdRooster_->zet_tekst_zonder_rijen(qt_text(tekst_in_leeg_rooster(programma_)));
+    status_->toon(statusregel(bediening_));
+    if (wijzigingen_) wijzigingen_->ververs();
 }
 
 void frmTavelo::toon_omschrijving() {
@@ -195,6 +212,22 @@ void frmTavelo::open_bestand() {
     toon();
 }
 
+// The file of the slot once more, as a click on its button.
+void frmTavelo::heropen() {
+    const int slot = programma_.rooster_slot;
+    if (!programma_.slots[slot == 1 ? 1 : 0].bestand.empty()) druk_slot(slot, Muisknop::links);
+}
+
+void frmTavelo::toon_wijzigingen() {
+    if (!wijzigingen_) wijzigingen_ = new frmWijzigingen(bediening_.dagverslag, *this);
+    const std::vector<Scherm> schermen = aanwezige_schermen();
+    const auto scherm = scherm_van(schermen, als_schermvlak(frameGeometry()));
+    if (!scherm) return;
+    const QRect rooster(grdRooster_->mapToGlobal(QPoint(0, 0)), grdRooster_->size());
+    const Schermvlak plaats = plaats_wijzigingen(schermen[*scherm].vlak, als_schermvlak(rooster));
+    wijzigingen_->open({plaats.links, plaats.boven, plaats.breedte, plaats.hoogte});
+}
+
 void frmTavelo::toon_instellingen() {
     omgeving_.instellingen(*this);
     toon();
@@ -206,9 +239,15 @@ void frmTavelo::wissel_deelnemer() {
         return;
     }
     deelnemer_ = new frmDeelnemer(
-        programma_, bediening_.deelnemer_venster, [this] { toon_deelnemer_venster(bediening_); }, *this,
-        paneel_->txtINR());
+        programma_, bediening_.deelnemer_venster,
+        [this] {
+            toon_deelnemer_venster(bediening_);
+            toon_status();
+        },
+        *this, paneel_->txtINR());
+    deelnemer_->bij_verandering([this] { toon_status(); });
     deelnemer_->open();
+    toon_status();
 }
 
 void frmTavelo::toon_herlezing() {
@@ -230,6 +269,7 @@ void frmTavelo::resizeEvent(QResizeEvent* event) {
     picDeelnemer_->neem_maat();
     toon_voorbeeld(bediening_);
     picDeelnemer_->ververs();
+    toon_status();
 }
 
 void frmTavelo::keyPressEvent(QKeyEvent* event) {
@@ -242,6 +282,8 @@ void frmTavelo::keyPressEvent(QKeyEvent* event) {
         }
         return;
     }
+    if (event->key() == Qt::Key_F5 && !toetsen) return heropen();
+    if (event->key() == Qt::Key_F6 && !toetsen) return toon_wijzigingen();
     // Most window managers take this key themselves.
     if (event->key() == Qt::Key_F4 && toetsen == Qt::AltModifier) {
         close();

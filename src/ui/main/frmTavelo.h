@@ -22,7 +22,9 @@ namespace tavelo {
 class ElidedLabel;
 class Paneel;
 class RoosterDetails;
+class StatusBalk;
 class frmDeelnemer;
+class frmWijzigingen;
 class frmTavelo;
 
 // What the window needs besides the rules' surroundings. References outlive the window.
@@ -68,11 +70,14 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     void druk_blader(Blader richting);
     void druk_slot(int slot, Muisknop knop);
     void open_bestand();
+    void heropen();
+    void toon_wijzigingen();
     void toon_instellingen();
     void wissel_deelnemer();
     void toon_herlezing();
 
     void toon_omschrijving();
+    void toon_status();
     void muiswiel(QWheelEvent& gebeurtenis);
 
     Bediening& bediening_;
@@ -86,6 +91,8 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     ElidedLabel* lblRoosterOmschrijving_ = nullptr;
     RoosterDetails* frameRoosterinstellingen_ = nullptr;
     VertoningWidget* picDeelnemer_ = nullptr;
+    StatusBalk* status_ = nullptr;
+    frmWijzigingen* wijzigingen_ = nullptr; // from its first showing on
     QPointer<frmDeelnemer> deelnemer_;
     QTimer groen_{this}; // runs while the description still has to be seen in green
 

@@ -73,5 +73,5 @@ int main(int argc, char** argv) {
     std::printf("memory: %.1f MiB with an empty window, %.1f MiB with the schedule of 4000\n", leeg, vol);
     tijden.druk_budget("chosen path to painted list of 4000 / 0.25 s", "openen", 0.25);
     tijden.druk_budget("typed number to preview and monitor of 3840 x 2160 painted / a frame of 60 Hz", "nummer",
-                       een_beeld);
+                       een_beeld, 0.5);
 }

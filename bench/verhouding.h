@@ -42,11 +42,11 @@ class Tijden : public benchmark::ConsoleReporter {
         std::printf("ratio %s: %.2f (at most %g)\n", wat, boven->second / onder->second, hoogstens);
     }
 
-    // The same against a fixed time: "ratio <what>: <part of the budget used> (at most 1)".
-    void druk_budget(const char* wat, const std::string& teller, double budget_seconden) const {
+    // The same against a fixed time: "ratio <what>: <part of the budget used> (at most <most>)".
+    void druk_budget(const char* wat, const std::string& teller, double budget_seconden, double hoogstens = 1) const {
         const auto boven = tijden_.find(teller);
         if (boven == tijden_.end()) return;
-        std::printf("ratio %s: %.2f (at most 1)\n", wat, boven->second / budget_seconden);
+        std::printf("ratio %s: %.2f (at most %g)\n", wat, boven->second / budget_seconden, hoogstens);
     }
 
   private:

@@ -1,22 +1,31 @@
-// Paints the areas of a display window as they were composed.
+// Paints the areas of a display window as they were composed. After a composition only what changed is painted: on a
+// large monitor the background alone takes longer than the texts.
 #pragma once
 
 #include "ui/display/tekenvlak.h"
 
+#include <QRect>
 #include <QWidget>
+
+#include <vector>
 
 namespace tavelo {
 
-// One area. `vlak` is not owned and outlives the widget; after a composition call `update`.
+// One area. `vlak` is not owned and outlives the widget.
 class TekenvlakWidget : public QWidget {
   public:
     TekenvlakWidget(const Tekenvlak& vlak, QWidget* parent);
+
+    // After a composition.
+    void ververs();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
     const Tekenvlak& vlak_;
+    Tekenvlak getoond_;           // as it was composed when it was last asked to be painted
+    std::vector<QRect> plaatsen_; // of its texts, with all their ink
 };
 
 // Both areas: itself `picDeelnemer`, with `picRubriek` as its child over the top.

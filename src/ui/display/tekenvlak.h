@@ -5,7 +5,9 @@
 
 #include "basis/seams.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +55,11 @@ class Tekenvlak {
     double punten_ = 8.25;
     std::vector<GeplaatsteTekst> regels_;
 };
+
+// Which texts are others, or in another place or size, in `nieuw` than in `oud`: their places in the two lists, of
+// which one may be shorter. What lies outside these texts, of both lists, looks the same. Nothing when the areas differ
+// in colours, letter or size, so that all of it looks otherwise.
+[[nodiscard]] std::optional<std::vector<std::size_t>> gewijzigde_regels(const Tekenvlak& oud, const Tekenvlak& nieuw);
 
 // The two areas of a display window. The heading band lies over the top of the participant area.
 struct Vertoning {

@@ -70,5 +70,58 @@ TEST(Tekenvlak, het_meet_met_zijn_eigen_lettertype_en_maat) {
     EXPECT_EQ(vlak.teksthoogte(Meter()), 14);
 }
 
+// An area with these texts, one below the other.
+Tekenvlak vlak_met(const std::vector<std::string>& teksten) {
+    const test::FakeMeasure meter;
+    Tekenvlak vlak;
+    vlak.zet_punten(10);
+    for (const std::string& tekst : teksten)
+        vlak.druk(meter, 30, tekst);
+    return vlak;
+}
+
+using Plaatsen = std::vector<std::size_t>;
+
+TEST(GewijzigdeRegels, zijn_de_teksten_die_anders_zijn) {
+    const Tekenvlak oud = vlak_met({"kop", "72", "Jan", "Bles"});
+    EXPECT_EQ(gewijzigde_regels(oud, oud), Plaatsen{});
+    EXPECT_EQ(gewijzigde_regels(oud, vlak_met({"kop", "73", "Jan", "Vonk"})), (Plaatsen{1, 3}));
+}
+
+TEST(GewijzigdeRegels, tellen_ook_wat_erbij_kwam_of_verdween) {
+    const Tekenvlak kort = vlak_met({"72"});
+    const Tekenvlak lang = vlak_met({"72", "Jan", "Bles"});
+    EXPECT_EQ(gewijzigde_regels(kort, lang), (Plaatsen{1, 2}));
+    EXPECT_EQ(gewijzigde_regels(lang, kort), (Plaatsen{1, 2}));
+}
+
+TEST(GewijzigdeRegels, tellen_ook_een_andere_plaats_of_maat) {
+    const test::FakeMeasure meter;
+    const auto met = [&](double x, double y, double punten) {
+        Tekenvlak vlak;
+        vlak.zet_punten(punten);
+        vlak.huidige_y = y;
+        vlak.druk(meter, x, "72");
+        return vlak;
+    };
+    const Tekenvlak oud = met(10, 20, 30);
+    for (const Tekenvlak& nieuw : {met(11, 20, 30), met(10, 21, 30), met(10, 20, 30.5)})
+        EXPECT_EQ(gewijzigde_regels(oud, nieuw), Plaatsen{0});
+}
+
+TEST(GewijzigdeRegels, zijn_er_niet_als_alles_er_anders_uitziet) {
+    const Tekenvlak oud = vlak_met({"72"});
+    const std::vector<void (*)(Tekenvlak&)> wijzigingen = {
+        [](Tekenvlak& v) { v.achtergrond = 1; },      [](Tekenvlak& v) { v.voorgrond = 1; },
+        [](Tekenvlak& v) { v.lettertype = "Arial"; }, [](Tekenvlak& v) { v.breedte = 1; },
+        [](Tekenvlak& v) { v.hoogte = 1; },
+    };
+    for (const auto& wijzig : wijzigingen) {
+        Tekenvlak nieuw = oud;
+        wijzig(nieuw);
+        EXPECT_EQ(gewijzigde_regels(oud, nieuw), std::nullopt);
+    }
+}
+
 } // namespace
 } // namespace tavelo

@@ -50,6 +50,13 @@ constexpr std::array<Instelling, 35> tabel = {{
     {"Excel", "col_union_name", "col_union_name", "", &I::col_union_name},
 }};
 
+// The default as it is saved: a colour in plain decimals.
+std::string standaard_tekst(const Instelling& instelling) {
+    Instellingen standaard;
+    static_cast<void>(zet_instelling(standaard, instelling, instelling.standaard));
+    return instelling_tekst(standaard, instelling);
+}
+
 template <class Integer>
 bool assign(Integer& field, std::optional<Integer> value) {
     if (!value) return false;
@@ -94,9 +101,13 @@ Instellingen laad_instellingen(const SettingsStore& opslag) {
 }
 
 void bewaar_instellingen(const Instellingen& instellingen, SettingsStore& opslag) {
-    for (const Instelling& instelling : tabel)
-        opslag.save(instellingen_toepassing, instelling.sectie, instelling.sleutel,
-                    instelling_tekst(instellingen, instelling));
+    for (const Instelling& instelling : tabel) {
+        const std::string tekst = instelling_tekst(instellingen, instelling);
+        if (tekst == standaard_tekst(instelling))
+            opslag.save_default(instellingen_toepassing, instelling.sectie, instelling.sleutel, tekst);
+        else
+            opslag.save(instellingen_toepassing, instelling.sectie, instelling.sleutel, tekst);
+    }
     opslag.flush();
 }
 

@@ -79,6 +79,7 @@ inline constexpr std::string_view instellingen_toepassing = "Vendalo 3.5 Deelnem
 
 // A stored number that does not fit its field leaves that field 0.
 [[nodiscard]] Instellingen laad_instellingen(const SettingsStore& opslag);
+// What is still at its default is saved as such, so that it does not replace a stored value that could not be read.
 void bewaar_instellingen(const Instellingen& instellingen, SettingsStore& opslag);
 
 } // namespace tavelo

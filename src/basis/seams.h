@@ -19,6 +19,11 @@ class SettingsStore {
     // Creates what is missing and overwrites. A failure leaves the store as it was.
     virtual void save(std::string_view application, std::string_view section, std::string_view key,
                       std::string_view value) = 0;
+    // The same for a setting that is still at its default: does not replace a stored value that could not be read.
+    virtual void save_default(std::string_view application, std::string_view section, std::string_view key,
+                              std::string_view value) {
+        save(application, section, key, value);
+    }
     // Called once after a series of saves: a store that keeps a file writes it here, whole or not at all.
     virtual void flush() {}
 };

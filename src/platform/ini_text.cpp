@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 namespace tavelo {
 
@@ -110,105 +111,95 @@ std::string name_text(std::string_view name) {
     return plain ? std::string(name) : quoted(name);
 }
 
+// What a line says. Texts that need no unquoting are cut out when they are asked for: a file may be large.
+struct Line {
+    std::size_t begin = 0;
+    std::size_t end = 0;   // before its line end
+    std::size_t after = 0; // where the next one begins
+    std::string_view text; // without blanks around it
+
+    [[nodiscard]] bool is_heading() const { return text.size() >= 2 && text.starts_with('[') && text.ends_with(']'); }
+    [[nodiscard]] bool is_heading_of(std::string_view section) const {
+        return plain_or_quoted(text.substr(1, text.size() - 2)) == section;
+    }
+    // The value when the line is one of this key.
+    [[nodiscard]] std::optional<std::string> value_of(std::string_view key) const {
+        if (text.empty() || text.starts_with(';') || text.starts_with('#')) return {};
+        std::string_view rest = text;
+        if (const std::optional<std::string> quoted_key = take_quoted(rest)) {
+            if (*quoted_key != key) return {};
+        } else {
+            const std::size_t equals = text.find('=');
+            if (equals == std::string_view::npos || without_outer_blanks(text.substr(0, equals)) != key) return {};
+            rest = text.substr(equals);
+        }
+        rest = without_outer_blanks(rest);
+        if (!rest.starts_with('=')) return {};
+        return plain_or_quoted(without_outer_blanks(rest.substr(1)));
+    }
+};
+
+Line line_at(std::string_view whole, std::size_t begin) {
+    Line line;
+    line.begin = begin;
+    line.end = std::min(whole.find('\n', begin), whole.size());
+    line.after = line.end + 1; // behind the end of a text whose last line has no end
+    if (line.end > begin && whole[line.end - 1] == '\r') --line.end;
+    std::string_view text = whole.substr(begin, line.end - begin);
+    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF"; // an editor may put it at the beginning
+    if (begin == 0 && text.starts_with(byte_order_mark)) text.remove_prefix(byte_order_mark.size());
+    line.text = without_outer_blanks(text);
+    return line;
+}
+
+// Where a key stands and where it would be put.
+struct Place {
+    std::optional<Line> line; // the last one with the key
+    std::string value;
+    std::optional<std::size_t> below; // after the last line of the section that is not blank
+};
+
+Place place_of(std::string_view whole, std::string_view section, std::string_view key) {
+    Place place;
+    bool inside = false;
+    for (std::size_t at = 0; at < whole.size();) {
+        const Line line = line_at(whole, at);
+        at = line.after;
+        const bool heading = line.is_heading();
+        if (heading) inside = line.is_heading_of(section);
+        if (!inside) continue;
+        if (!line.text.empty()) place.below = line.after;
+        if (heading) continue;
+        if (std::optional<std::string> value = line.value_of(key)) {
+            place.line = line;
+            place.value = std::move(*value);
+        }
+    }
+    return place;
+}
+
 } // namespace
 
-IniText::IniText(std::string_view text) {
-    while (!text.empty()) {
-        const std::size_t end = text.find('\n');
-        append_parsed(text.substr(0, end));
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    }
-}
-
-void IniText::append_parsed(std::string_view raw) {
-    const bool first = lines_.empty();
-    Line& line = lines_.emplace_back();
-    if (!first) {
-        const Line& before = lines_[lines_.size() - 2];
-        line.section = before.section;
-        line.has_section = before.has_section;
-    }
-    line.carriage_return = raw.ends_with('\r');
-    if (line.carriage_return) raw.remove_suffix(1);
-    line.raw = raw;
-
-    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF"; // an editor may put it at the beginning
-    if (first && raw.starts_with(byte_order_mark)) raw.remove_prefix(byte_order_mark.size());
-    const std::string_view text = without_outer_blanks(raw);
-    if (text.size() >= 2 && text.starts_with('[') && text.ends_with(']')) {
-        line.section = plain_or_quoted(text.substr(1, text.size() - 2));
-        line.has_section = true;
-        return;
-    }
-    if (text.starts_with(';') || text.starts_with('#')) return;
-
-    std::string_view rest = text;
-    std::optional<std::string> key = take_quoted(rest);
-    if (!key) {
-        const std::size_t equals = text.find('=');
-        if (equals == std::string_view::npos) return;
-        key = without_outer_blanks(text.substr(0, equals));
-        rest = text.substr(equals);
-    }
-    rest = without_outer_blanks(rest);
-    if (!rest.starts_with('=')) return;
-    line.is_value = true;
-    line.key = std::move(*key);
-    line.value = plain_or_quoted(without_outer_blanks(rest.substr(1)));
-}
-
-const IniText::Line* IniText::find(std::string_view section, std::string_view key) const {
-    const auto found = std::find_if(lines_.rbegin(), lines_.rend(), [&](const Line& line) {
-        return line.is_value && line.has_section && line.section == section && line.key == key;
-    });
-    return found == lines_.rend() ? nullptr : &*found;
-}
-
 std::optional<std::string> IniText::get(std::string_view section, std::string_view key) const {
-    const Line* line = find(section, key);
-    if (!line) return {};
-    return line->value;
+    Place place = place_of(text_, section, key);
+    if (!place.line) return {};
+    return std::move(place.value);
 }
 
 void IniText::set(std::string_view section, std::string_view key, std::string_view value) {
-    const Line* present = find(section, key);
-    if (present && present->value == value) return; // keeps the way in which somebody wrote it
-
-    Line line;
-    line.is_value = true;
-    line.section = section;
-    line.has_section = true;
-    line.key = key;
-    line.value = value;
-    line.raw = name_text(key) + '=' + value_text(value);
-    if (present) {
-        line.carriage_return = present->carriage_return;
-        lines_[static_cast<std::size_t>(present - lines_.data())] = std::move(line);
+    const Place place = place_of(text_, section, key);
+    const std::string line = name_text(key) + '=' + value_text(value);
+    if (place.line) {
+        // The same value keeps the way in which somebody wrote it.
+        if (place.value != value) text_.replace(place.line->begin, place.line->end - place.line->begin, line);
         return;
     }
-    // Below the last line of the section; blank lines that part it from the next one stay below.
-    const auto last = std::find_if(lines_.rbegin(), lines_.rend(), [&](const Line& other) {
-        return other.has_section && other.section == section && !without_outer_blanks(other.raw).empty();
-    });
-    if (last != lines_.rend()) {
-        lines_.insert(last.base(), std::move(line));
-        return;
-    }
-    Line heading;
-    heading.section = section;
-    heading.has_section = true;
-    heading.raw = '[' + name_text(section) + ']';
-    lines_.push_back(std::move(heading));
-    lines_.push_back(std::move(line));
-}
-
-std::string IniText::text() const {
-    std::string result;
-    for (const Line& line : lines_) {
-        result += line.raw;
-        result += line.carriage_return ? "\r\n" : "\n";
-    }
-    return result;
+    if (!text_.empty() && !text_.ends_with('\n')) text_ += '\n';
+    // Blank lines that part the section from the next one stay below.
+    if (place.below)
+        text_.insert(*place.below, line + '\n');
+    else
+        text_ += '[' + name_text(section) + "]\n" + line + '\n';
 }
 
 } // namespace tavelo

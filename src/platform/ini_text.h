@@ -8,35 +8,23 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 namespace tavelo {
 
 class IniText {
   public:
-    explicit IniText(std::string_view text);
+    explicit IniText(std::string text) : text_(std::move(text)) {}
 
     // Nothing when section or key is absent. Of a key that stands more than once the last counts.
     [[nodiscard]] std::optional<std::string> get(std::string_view section, std::string_view key) const;
+    // A value that changes nothing leaves every byte as it is.
     void set(std::string_view section, std::string_view key, std::string_view value);
 
-    [[nodiscard]] std::string text() const;
+    [[nodiscard]] const std::string& text() const { return text_; }
 
   private:
-    struct Line {
-        std::string raw; // without its line end
-        bool carriage_return = false;
-        bool is_value = false;
-        std::string section; // in which it stands
-        bool has_section = false;
-        std::string key;
-        std::string value;
-    };
-
-    void append_parsed(std::string_view raw);
-    [[nodiscard]] const Line* find(std::string_view section, std::string_view key) const;
-
-    std::vector<Line> lines_;
+    std::string text_; // read through at every question: no more memory than the file has bytes
 };
 
 } // namespace tavelo

@@ -1,10 +1,11 @@
 #include "platform/settings_store.h"
 
 #include "platform/qt_text.h"
+#include "platform/safe_file.h"
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
+#include <QLoggingCategory>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -18,6 +19,10 @@ UserSettingsStore::UserSettingsStore()
     : UserSettingsStore(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)) {}
 
 UserSettingsStore::UserSettingsStore(QString folder) : folder_(std::move(folder)) {}
+
+std::string UserSettingsStore::path_of(std::string_view application) const {
+    return QFile::encodeName(file_name(application)).toStdString();
+}
 
 QString UserSettingsStore::file_name(std::string_view application) const {
     // Encoded: a separator in the name would lead out of the folder.
@@ -48,23 +53,38 @@ void UserSettingsStore::save(std::string_view application, std::string_view sect
     QSettings(registry_area(application, section), QSettings::NativeFormat).setValue(qt_text(key), qt_text(value));
 }
 
+void UserSettingsStore::save_default(std::string_view application, std::string_view section, std::string_view key,
+                                     std::string_view value) {
+    save(application, section, key, value);
+}
+
 void UserSettingsStore::flush() {}
 
 #else
 
 namespace {
 
-// Empty without a file; nothing when there is one that cannot be read.
-std::optional<std::string> file_text(const QString& name) {
-    QFile file(name);
-    if (!file.exists()) return std::string();
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) return {};
-    return bytes.toStdString();
+// Ours has a few kilobytes. What is larger than this is no settings file.
+constexpr std::size_t largest = std::size_t{16} * 1024 * 1024;
+
+void log_fault(const char* what, const std::string& path, const FileFault& fault) {
+    static const QLoggingCategory category("tavelo.instellingen");
+    qCWarning(category).noquote() << what << qt_text(path) << '-' << qt_text(fault.step) << '-'
+                                  << qt_error_string(fault.error);
 }
 
 } // namespace
+
+const UserSettingsStore::Known& UserSettingsStore::known(std::string_view application) const {
+    if (const auto found = known_.find(application); found != known_.end()) return found->second;
+    const std::string path = path_of(application);
+    remove_leftovers(path);
+    auto text = read_small_file(path, largest);
+    if (!text) text = read_small_file(path, largest); // what failed once may not fail twice
+    if (!text) log_fault("not read:", path, text.error());
+    Known now{IniText(text ? text->value_or("") : ""), text.has_value()};
+    return known_.emplace(std::string(application), std::move(now)).first->second;
+}
 
 std::optional<std::string> UserSettingsStore::get(std::string_view application, std::string_view section,
                                                   std::string_view key) const {
@@ -72,15 +92,17 @@ std::optional<std::string> UserSettingsStore::get(std::string_view application, 
         for (auto it = saved->second.rbegin(); it != saved->second.rend(); ++it)
             if (it->section == section && it->key == key) return it->value;
     }
-    auto read = read_.find(application);
-    if (read == read_.end())
-        read = read_.emplace(std::string(application), IniText(file_text(file_name(application)).value_or(""))).first;
-    return read->second.get(section, key);
+    return known(application).ini.get(section, key);
 }
 
 void UserSettingsStore::save(std::string_view application, std::string_view section, std::string_view key,
                              std::string_view value) {
-    saved_[std::string(application)].push_back({std::string(section), std::string(key), std::string(value)});
+    saved_[std::string(application)].push_back({std::string(section), std::string(key), std::string(value), true});
+}
+
+void UserSettingsStore::save_default(std::string_view application, std::string_view section, std::string_view key,
+                                     std::string_view value) {
+    saved_[std::string(application)].push_back({std::string(section), std::string(key), std::string(value), false});
 }
 
 void UserSettingsStore::flush() {
@@ -90,21 +112,23 @@ void UserSettingsStore::flush() {
 }
 
 void UserSettingsStore::write_file(const std::string& application, const std::vector<Saved>& saved) {
-    const QString name = file_name(application);
-    const std::optional<std::string> present = file_text(name);
-    if (!present) return;
-    IniText ini(*present);
+    const std::string path = path_of(application);
+    const auto present = read_small_file(path, largest);
+    if (!present) {
+        log_fault("not written, because it cannot be read:", path, present.error());
+        return;
+    }
+    const bool was_read = known(application).was_read;
+    IniText ini(present->value_or(""));
     for (const Saved& one : saved)
-        ini.set(one.section, one.key, one.value);
+        if (one.chosen || was_read || !ini.get(one.section, one.key)) ini.set(one.section, one.key, one.value);
 
     const std::string text = ini.text();
-    read_.insert_or_assign(application, std::move(ini));
+    known_.at(application).ini = std::move(ini);
     if (text == *present) return;
     QDir().mkpath(folder_);
-    QSaveFile file(name);
-    if (!file.open(QIODevice::WriteOnly)) return;
-    file.write(text.data(), static_cast<qint64>(text.size()));
-    file.commit(); // a failure leaves the old file
+    const auto written = replace_file(path, text);
+    if (!written) log_fault("not written:", path, written.error());
 }
 
 #endif

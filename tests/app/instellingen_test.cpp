@@ -114,6 +114,32 @@ TEST(Instellingen, laden_en_bewaren_gaan_in_de_volgorde_van_de_tabel) {
     EXPECT_EQ(opslag.stappen, verwacht);
 }
 
+TEST(Instellingen, wat_nog_standaard_is_wordt_als_standaard_bewaard) {
+    struct Opslag final : SettingsStore {
+        std::vector<std::string> gekozen;
+        int standaard = 0;
+        [[nodiscard]] std::optional<std::string> get(std::string_view, std::string_view,
+                                                     std::string_view) const override {
+            return std::nullopt;
+        }
+        void save(std::string_view, std::string_view, std::string_view key, std::string_view value) override {
+            gekozen.push_back(std::string(key) + '=' + std::string(value));
+        }
+        void save_default(std::string_view, std::string_view, std::string_view, std::string_view) override {
+            ++standaard;
+        }
+    } opslag;
+    I instellingen = laad_instellingen(opslag);
+    instellingen.lastfolder = "/map/";
+    instellingen.backcolor = 255;
+    instellingen.showhorsename = 0;
+    instellingen.fieldnames = 1;
+    bewaar_instellingen(instellingen, opslag);
+    EXPECT_EQ(opslag.gekozen,
+              (std::vector<std::string>{"lastfolder=/map/", "backcolor=255", "showhorsename=0", "fieldnames=1"}));
+    EXPECT_EQ(opslag.standaard, 31);
+}
+
 TEST(Instellingen, een_lege_opslag_geeft_de_standaardwaarden) {
     I verwacht;
     verwacht.fontname = "Arial";

@@ -111,6 +111,18 @@ TEST_F(SettingsStoreTest, alles_wat_het_programma_niet_kent_blijft_staan) {
               "[Files]\nlastfolder=\n");
 }
 
+TEST_F(SettingsStoreTest, een_laatste_regel_zonder_einde_krijgt_er_een_als_er_iets_onder_komt) {
+    schrijf("[Files]\nander=x");
+    UserSettingsStore opslag(map.path());
+    opslag.save(toepassing, "Files", "ander", "x");
+    opslag.flush();
+    EXPECT_EQ(lees(), "[Files]\nander=x");
+    opslag.save(toepassing, "Files", "lastfolder", "/map/");
+    opslag.save(toepassing, "Layout", "textsize", "100");
+    opslag.flush();
+    EXPECT_EQ(lees(), "[Files]\nander=x\nlastfolder=/map/\n[Layout]\ntextsize=100\n");
+}
+
 TEST_F(SettingsStoreTest, wat_een_ander_intussen_schreef_blijft_staan) {
     UserSettingsStore opslag(map.path());
     EXPECT_EQ(opslag.get(toepassing, "Files", "lastfolder"), std::nullopt);

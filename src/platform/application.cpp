@@ -1,13 +1,32 @@
 #include "platform/application.h"
 
+#include <QAbstractButton>
 #include <QDebug>
+#include <QShortcutEvent>
 
 #include <exception>
 
 namespace tavelo {
 
+namespace {
+
+// The toolkit shows a button pressed for a tenth of a second before its key does anything; what is typed meanwhile
+// would be done first. True when the button of the key was clicked.
+bool clicks_at_once(QObject* receiver, QEvent* event) {
+    if (event->type() != QEvent::Shortcut) return false;
+    auto* button = qobject_cast<QAbstractButton*>(receiver);
+    const auto& shortcut = static_cast<const QShortcutEvent&>(*event);
+    if (!button || shortcut.isAmbiguous() || shortcut.key() != button->shortcut()) return false;
+    if (button->isCheckable() && (button->focusPolicy() & Qt::ClickFocus)) button->setFocus(Qt::ShortcutFocusReason);
+    button->click();
+    return true;
+}
+
+} // namespace
+
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
+        if (clicks_at_once(receiver, event)) return true;
         return QApplication::notify(receiver, event);
     } catch (const std::exception& error) {
         qWarning() << "event handler stopped:" << error.what();

@@ -79,6 +79,15 @@ TEST_F(FrmInstellingen, staat_voor_een_venster_dat_bovenaan_staat_en_anders_tuss
     EXPECT_TRUE(staat_bovenaan(open()));
 }
 
+TEST_F(FrmInstellingen, een_toets_van_een_vinkje_en_meteen_enter_houdt_de_wijziging) {
+    instellingen().showhorsecolor = 0;
+    frmInstellingen& venster = open();
+    QTest::keyClick(&venster, Qt::Key_K, Qt::AltModifier);
+    QTest::keyClick(venster.focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(venster.isVisible());
+    EXPECT_EQ(instellingen().showhorsecolor, 1);
+}
+
 TEST_F(FrmInstellingen, heeft_elke_besturing_onder_haar_naam) {
     open();
     vind<QComboBox>("CmbFontName");

@@ -36,7 +36,7 @@ std::vector<Scherm> aanwezige_schermen() {
 }
 
 frmDeelnemer::frmDeelnemer(Programma& programma, Vertoning& vertoning, std::function<void()> stel_samen,
-                           QWidget& eigenaar, const QWidget& nummervak)
+                           QWidget& eigenaar, QWidget& nummervak)
     : QWidget(&eigenaar, venstersoort),
       programma_(programma),
       stel_samen_(std::move(stel_samen)),
@@ -183,10 +183,33 @@ void frmDeelnemer::keyPressEvent(QKeyEvent* event) {
         wissel_weergave(deelnemer_bijschrift);
         return;
     }
+    // Most window managers take this key themselves.
+    if (event->key() == Qt::Key_F4 && (event->modifiers() & storend) == Qt::AltModifier) {
+        close();
+        return;
+    }
     event->ignore();
 }
 
+// Nothing can be typed on the wall, and nobody sees there that the keys go to it.
+void frmDeelnemer::mouseReleaseEvent(QMouseEvent* event) {
+    QWidget::mouseReleaseEvent(event);
+    if (!beeldvullend()) return;
+    eigenaar_.activateWindow();
+    nummervak_.setFocus();
+    raise();
+}
+
+void frmDeelnemer::sluit() {
+    mag_sluiten_ = true;
+    close();
+}
+
 void frmDeelnemer::closeEvent(QCloseEvent* event) {
+    if (beeldvullend() && !mag_sluiten_) {
+        event->ignore();
+        return;
+    }
     gesloten_ = true;
     programma_.deelnemer_open = false; // from here on nothing is composed for it
     event->accept();

@@ -25,15 +25,18 @@ inline constexpr std::string_view deelnemer_bijschrift_hoofdvenster = "Monitor v
 class frmDeelnemer final : public QWidget {
   public:
     // `stel_samen` composes the current combination in `vertoning`. The window deletes itself when it is closed.
-    // `nummervak` is the control of the owner that stays in sight.
+    // `nummervak` is the control of the owner that stays in sight and gets the keys back.
     frmDeelnemer(Programma& programma, Vertoning& vertoning, std::function<void()> stel_samen, QWidget& eigenaar,
-                 const QWidget& nummervak);
+                 QWidget& nummervak);
     ~frmDeelnemer() override;
 
     // Shows it on the screen where it belongs, without taking the focus from the operator.
     void open() { open(aanwezige_schermen()); }
     void open(const std::vector<Scherm>& schermen);
     void ververs() { picDeelnemer_.ververs(); }
+    // Closes it in either view. Whatever else asks it to close, such as Alt+F4, closes it in the normal view only: in
+    // full screen that key was meant for another window.
+    void sluit();
 
     [[nodiscard]] bool beeldvullend() const { return windowTitle().isEmpty(); }
     // The key F11; `normaal_bijschrift` is the caption of the normal view.
@@ -50,6 +53,7 @@ class frmDeelnemer final : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
@@ -67,10 +71,11 @@ class frmDeelnemer final : public QWidget {
     std::function<void()> stel_samen_;
     std::function<void()> veranderd_ = [] {};
     QWidget& eigenaar_;
-    const QWidget& nummervak_;
+    QWidget& nummervak_;
     VertoningWidget picDeelnemer_;
     KeepAwake wakker_;
     bool gesloten_ = false;
+    bool mag_sluiten_ = false; // also in full screen
 
     std::vector<Scherm> schermen_;
     std::string eigen_scherm_; // name of the screen that it belongs to

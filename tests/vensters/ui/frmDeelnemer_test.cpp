@@ -114,6 +114,43 @@ TEST_F(FrmDeelnemer, f11_met_een_andere_toets_en_andere_toetsen_doen_niets) {
     }
 }
 
+TEST_F(FrmDeelnemer, een_klik_op_het_beeldvullende_venster_geeft_de_toetsen_terug_aan_het_nummervak) {
+    nummervak.setFocusPolicy(Qt::StrongFocus);
+    open();
+    venster->activateWindow();
+    QTest::mouseClick(venster, Qt::LeftButton);
+    EXPECT_FALSE(nummervak.hasFocus()); // a window like any other
+    QTest::keyClick(venster, Qt::Key_F11);
+    venster->activateWindow();
+    QCoreApplication::processEvents();
+    ASSERT_FALSE(hoofdvenster.isActiveWindow());
+    QTest::mouseClick(venster->findChild<QWidget*>("picDeelnemer"), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return hoofdvenster.isActiveWindow() && nummervak.hasFocus(); }));
+    EXPECT_TRUE(venster->isFullScreen());
+}
+
+TEST_F(FrmDeelnemer, alt_f4_sluit_het_gewone_venster_maar_niet_het_beeldvullende) {
+    open();
+    QTest::keyClick(venster, Qt::Key_F11);
+    QTest::keyClick(venster, Qt::Key_F4, Qt::AltModifier);
+    EXPECT_TRUE(venster->isVisible());
+    venster->close(); // as the window manager asks, which takes the key itself
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_TRUE(programma.deelnemer_open);
+    QTest::keyClick(venster, Qt::Key_F11);
+    QTest::keyClick(venster, Qt::Key_F4, Qt::AltModifier);
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_FALSE(programma.deelnemer_open);
+}
+
+TEST_F(FrmDeelnemer, het_programma_sluit_het_ook_beeldvullend) {
+    open();
+    QTest::keyClick(venster, Qt::Key_F11);
+    venster->sluit();
+    EXPECT_FALSE(venster->isVisible());
+    EXPECT_FALSE(programma.deelnemer_open);
+}
+
 TEST_F(FrmDeelnemer, f11_maakt_ook_een_gemaximaliseerd_of_verborgen_venster_beeldvullend_en_daarna_gewoon) {
     open();
     for (const Qt::WindowState stand : {Qt::WindowMaximized, Qt::WindowMinimized}) {

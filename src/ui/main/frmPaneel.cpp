@@ -7,6 +7,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
 
@@ -46,11 +47,11 @@ const Breedten& breedten(const QWidget& venster) {
     return scherm && scherm->availableGeometry().width() < ruim_scherm ? krap : ruim;
 }
 
-Paneel::Paneel(PaneelActies acties, QWidget* ouder) : QWidget(ouder), acties_(std::move(acties)) {
+Paneel::Paneel(const Grid& rooster, PaneelActies acties, QWidget* ouder) : QWidget(ouder), acties_(std::move(acties)) {
     auto* rij = new QHBoxLayout(this);
     rij->setContentsMargins(0, 0, 0, 0);
     rij->setSpacing(4);
-    bouw_nummervak(*rij);
+    bouw_nummervak(rooster, *rij);
     bouw_bladerknoppen(*rij);
     rij->addStretch();
     bouw_slotknoppen(*rij);
@@ -58,14 +59,14 @@ Paneel::Paneel(PaneelActies acties, QWidget* ouder) : QWidget(ouder), acties_(st
     bouw_snelknoppen(*rij);
 }
 
-void Paneel::bouw_nummervak(QHBoxLayout& rij) {
+void Paneel::bouw_nummervak(const Grid& rooster, QHBoxLayout& rij) {
     auto* label = new QLabel(QStringLiteral("&Nummer:"), this);
     label->setObjectName(QStringLiteral("lblNummer"));
     QFont letter = label->font();
     letter.setPointSizeF(letter.pointSizeF() * breedten(*this).nummerlabel);
     label->setFont(letter);
-    txtINR_ = new QLineEdit(this);
-    txtINR_->setObjectName(QStringLiteral("txtINR"));
+    txtINR_ = new Nummervak(
+        rooster, [this](Blader richting) { acties_.blader(richting); }, this);
     txtINR_->setAccessibleName(QStringLiteral("Nummer van de combinatie in de ring"));
     txtINR_->setToolTip(QStringLiteral("Typ het nummer van de combinatie in de ring"));
     txtINR_->setAlignment(Qt::AlignCenter);
@@ -80,7 +81,6 @@ void Paneel::bouw_nummervak(QHBoxLayout& rij) {
     connect(txtINR_, &QLineEdit::textChanged, this, [this](const QString& tekst) {
         if (!schrijft_) acties_.typ_nummer(tekst);
     });
-    connect(txtINR_, &QLineEdit::returnPressed, txtINR_, &QLineEdit::selectAll);
 }
 
 void Paneel::bouw_bladerknoppen(QHBoxLayout& rij) {
@@ -119,6 +119,7 @@ void Paneel::bouw_slotknoppen(QHBoxLayout& rij) {
         knop->setCheckable(true);
         zet_maat(*knop, breedten(*this).slotknop);
         knop->setContextMenuPolicy(Qt::CustomContextMenu);
+        knop->installEventFilter(this); // for the buttons of the mouse that the toolkit does not tell about
         connect(knop, &QToolButton::clicked, this, [this, slot] { acties_.slot(slot, Muisknop::links); });
         connect(knop, &QToolButton::customContextMenuRequested, this,
                 [this, slot] { acties_.slot(slot, Muisknop::rechts); });
@@ -146,10 +147,14 @@ void Paneel::bouw_snelknoppen(QHBoxLayout& rij) {
     btnFast_[2]->setCheckable(true); // down while the participant window is open
 }
 
-std::optional<int> Paneel::slot_van(const QObject* knop) const {
-    const auto gevonden = std::ranges::find(btnRooster_, knop);
-    if (gevonden == btnRooster_.end()) return std::nullopt;
-    return static_cast<int>(gevonden - btnRooster_.begin());
+bool Paneel::eventFilter(QObject* knop, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease) { // chooses the slot and reads nothing: it is meant so
+        const auto muisknop = static_cast<const QMouseEvent&>(*event).button();
+        const auto gevonden = std::ranges::find(btnRooster_, knop);
+        if (gevonden != btnRooster_.end() && muisknop != Qt::LeftButton && muisknop != Qt::RightButton)
+            acties_.slot(static_cast<int>(gevonden - btnRooster_.begin()), Muisknop::anders);
+    }
+    return QWidget::eventFilter(knop, event);
 }
 
 void Paneel::toon(const Programma& programma) {

@@ -3,15 +3,14 @@
 #pragma once
 
 #include "app/programma.h"
+#include "ui/main/frmNummervak.h"
 #include "ui/main/huidige_combinatie.h"
 #include "ui/main/open_rooster.h"
 
-#include <QLineEdit>
 #include <QToolButton>
 
 #include <array>
 #include <functional>
-#include <optional>
 
 class QHBoxLayout;
 
@@ -43,11 +42,10 @@ struct PaneelActies {
 
 class Paneel final : public QWidget {
   public:
-    Paneel(PaneelActies acties, QWidget* ouder);
+    // `rooster` holds the numbers of the list that is open; it outlives the widget.
+    Paneel(const Grid& rooster, PaneelActies acties, QWidget* ouder);
 
-    [[nodiscard]] QLineEdit& txtINR() const { return *txtINR_; }
-    // The slot whose button this is.
-    [[nodiscard]] std::optional<int> slot_van(const QObject* knop) const;
+    [[nodiscard]] Nummervak& txtINR() const { return *txtINR_; }
 
     // Shows the number box and the slots as the program has them; a text written here is not told as typed.
     void toon(const Programma& programma);
@@ -56,8 +54,11 @@ class Paneel final : public QWidget {
     // The keys walk over the controls from left to right and then to `daarna`.
     void zet_tabvolgorde(QWidget* daarna);
 
+  protected:
+    bool eventFilter(QObject* knop, QEvent* event) override;
+
   private:
-    void bouw_nummervak(QHBoxLayout& rij);
+    void bouw_nummervak(const Grid& rooster, QHBoxLayout& rij);
     void bouw_bladerknoppen(QHBoxLayout& rij);
     void bouw_slotknoppen(QHBoxLayout& rij);
     void bouw_snelknoppen(QHBoxLayout& rij);
@@ -65,7 +66,7 @@ class Paneel final : public QWidget {
     void toon_nummer_onbekend(bool onbekend);
 
     PaneelActies acties_;
-    QLineEdit* txtINR_ = nullptr;
+    Nummervak* txtINR_ = nullptr;
     std::array<QToolButton*, 3> btnBlader_{};
     std::array<QToolButton*, 2> btnRooster_{};
     std::array<QToolButton*, 3> btnFast_{};

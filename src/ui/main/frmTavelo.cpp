@@ -98,7 +98,7 @@ void frmTavelo::bouw_bediening() {
     acties.openen = [this] { open_bestand(); };
     acties.instellingen = [this] { toon_instellingen(); };
     acties.monitorvenster = [this] { wissel_deelnemer(); };
-    paneel_ = new Paneel(std::move(acties), vlak_);
+    paneel_ = new Paneel(programma_.grdRooster, std::move(acties), vlak_);
 
     lblRoosterOmschrijving_ = new ElidedLabel(vlak_);
     lblRoosterOmschrijving_->setObjectName(QStringLiteral("lblRoosterOmschrijving"));
@@ -113,6 +113,7 @@ void frmTavelo::bouw_bediening() {
     grdRooster_->bij_kiezen([this] {
         kies_rij(bediening_);
         toon();
+        verwacht_nummer();
     });
     grdRooster_->begin_bij([this] { return begin_van_pijltjes(bediening_); });
 
@@ -187,6 +188,9 @@ void frmTavelo::toon_omschrijving() {
     toon_tekst(*lblRoosterOmschrijving_, QStringLiteral("Omschrijving"), programma_.labels.lblRoosterOmschrijving);
 }
 
+// The next digit begins a new number.
+void frmTavelo::verwacht_nummer() { paneel_->txtINR().selectAll(); }
+
 void frmTavelo::kies_nummer(const QString& tekst) {
     typ_txtINR(bediening_, utf8(tekst));
     if (programma_.huidige_regel >= 1) grdRooster_->breng_in_beeld();
@@ -197,6 +201,7 @@ void frmTavelo::druk_blader(Blader richting) {
     blader(bediening_, richting);
     if (programma_.huidige_regel >= 1) grdRooster_->breng_in_beeld();
     toon();
+    verwacht_nummer();
     if (richting == Blader::wis) paneel_->txtINR().setFocus();
 }
 
@@ -205,11 +210,13 @@ void frmTavelo::druk_slot(int slot, Muisknop knop) {
     paneel_->toon_gekozen_slot(slot);
     klik_slot(bediening_, slot, knop);
     toon();
+    verwacht_nummer();
 }
 
 void frmTavelo::open_bestand() {
     open_rooster(bediening_, "", programma_.rooster_slot);
     toon();
+    verwacht_nummer();
 }
 
 // The file of the slot once more, as a click on its button.
@@ -235,7 +242,7 @@ void frmTavelo::toon_instellingen() {
 
 void frmTavelo::wissel_deelnemer() {
     if (programma_.deelnemer_open) {
-        if (deelnemer_) deelnemer_->close();
+        if (deelnemer_) deelnemer_->sluit();
         return;
     }
     deelnemer_ = new frmDeelnemer(
@@ -290,10 +297,10 @@ void frmTavelo::keyPressEvent(QKeyEvent* event) {
         return;
     }
     // A digit typed anywhere in the window begins the next number.
-    const QString tekst = event->text();
-    if (!toetsen && tekst.size() == 1 && tekst[0] >= '0' && tekst[0] <= '9') {
+    if (is_cijfer(*event)) {
         paneel_->txtINR().setFocus();
-        paneel_->txtINR().setText(tekst);
+        verwacht_nummer();
+        QApplication::sendEvent(&paneel_->txtINR(), event);
         return;
     }
     QMainWindow::keyPressEvent(event);
@@ -307,6 +314,7 @@ void frmTavelo::closeEvent(QCloseEvent* event) {
 }
 
 void frmTavelo::sluit_andere_vensters() {
+    if (deelnemer_) deelnemer_->sluit();
     for (QWidget* venster : QApplication::topLevelWidgets())
         if (venster->objectName() != objectName() && venster->isVisible()) venster->close();
 }
@@ -316,11 +324,6 @@ void frmTavelo::muiswiel_hook() { qApp->installEventFilter(this); }
 void frmTavelo::muiswiel_unhook() { qApp->removeEventFilter(this); }
 
 bool frmTavelo::eventFilter(QObject* receiver, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonRelease) { // chooses the slot and reads nothing: it is meant so
-        const auto knop = static_cast<const QMouseEvent&>(*event).button();
-        const std::optional<int> slot = paneel_->slot_van(receiver);
-        if (slot && knop != Qt::LeftButton && knop != Qt::RightButton) druk_slot(*slot, Muisknop::anders);
-    }
     if (event->type() != QEvent::Wheel) return QMainWindow::eventFilter(receiver, event);
     const auto* besturing = qobject_cast<QWidget*>(receiver);
     if (!besturing || besturing->window() != this) return QMainWindow::eventFilter(receiver, event);

@@ -66,6 +66,7 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     void bouw_bediening();
     void ontwerp_plaatsen();
 
+    void verwacht_nummer();
     void kies_nummer(const QString& tekst);
     void druk_blader(Blader richting);
     void druk_slot(int slot, Muisknop knop);

@@ -55,11 +55,12 @@ struct FrmTavelo : testing::Test {
     Programma& programma = opstelling.programma;
     int intros = 0;
     int instellingen_getoond = 0;
+    bool muiswiel = true;
     std::unique_ptr<frmTavelo> venster;
 
     void SetUp() override {
         programma.instellingen = laad_instellingen(opslag);
-        programma.muiswiel_aanwezig = true;
+        programma.muiswiel_aanwezig = muiswiel;
         mappen.folders[5] = map.file("documenten");
         venster = std::make_unique<frmTavelo>(
             opstelling.bediening, TaveloOmgeving{opslag, mappen, lezer_van_de_poll(), map.file("programma"),
@@ -242,12 +243,12 @@ TEST_F(FrmTavelo, bladeren_gaat_met_de_knoppen_en_met_hun_toetsen) {
     QTest::mouseClick(&vind("btnBlader_0"), Qt::LeftButton);
     QTest::mouseClick(&vind("btnBlader_0"), Qt::LeftButton);
     EXPECT_EQ(txtINR().text(), "5");
-    QTest::keyClick(venster.get(), Qt::Key_O, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return txtINR().text() == "6"; }));
+    QTest::keyClick(venster.get(), Qt::Key_O, Qt::AltModifier); // at once, as every key
+    EXPECT_EQ(txtINR().text(), "6");
     QTest::keyClick(venster.get(), Qt::Key_V, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return txtINR().text() == "5"; }));
+    EXPECT_EQ(txtINR().text(), "5");
     QTest::keyClick(venster.get(), Qt::Key_W, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return txtINR().text() == ""; }));
+    EXPECT_EQ(txtINR().text(), "");
     EXPECT_EQ(venster->focusWidget(), &txtINR());
 }
 
@@ -260,6 +261,123 @@ TEST_F(FrmTavelo, een_cijfer_in_de_lijst_begint_een_nieuw_nummer) {
     EXPECT_EQ(txtINR().text(), "1");
     QTest::keyClick(&txtINR(), Qt::Key_6);
     EXPECT_EQ(programma.huidige_regel, 3);
+}
+
+TEST_F(FrmTavelo, een_cijfer_in_de_lijst_kiest_zijn_nummer_ook_als_het_al_in_het_vak_staat) {
+    open_nummers({5, 6});
+    typ("5");
+    open(map.write("ander.rst", roosterbestand({6, 5}, "Amazone")));
+    grdRooster().setFocus();
+    QTest::keyClick(&grdRooster(), Qt::Key_5);
+    EXPECT_EQ(txtINR().text(), "5");
+    EXPECT_EQ(programma.huidige_regel, 2);
+    EXPECT_EQ(programma.huidig_naam, "Amazone 5");
+}
+
+TEST_F(FrmTavelo, na_bladeren_kiezen_of_openen_begint_een_cijfer_een_nieuw_nummer) {
+    open_nummers({5, 6, 7});
+    const std::vector<std::pair<const char*, std::function<void()>>> handelingen = {
+        {"next", [this] { QTest::mouseClick(&vind("btnBlader_1"), Qt::LeftButton); }},
+        {"previous", [this] { QTest::mouseClick(&vind("btnBlader_0"), Qt::LeftButton); }},
+        {"row",
+         [this] {
+             QTest::mouseClick(grdRooster().viewport(), Qt::LeftButton, {},
+                               grdRooster().visualRect(grdRooster().model()->index(1, kolom_naam)).center());
+             EXPECT_EQ(txtINR().selectedText(), "6");
+             txtINR().setFocus();
+         }},
+        {"slot", [this] { QTest::mouseClick(&vind("btnRooster_0"), Qt::LeftButton); }},
+        {"file",
+         [this] {
+             open_nummers({5, 6, 7});
+         }},
+    };
+    for (const auto& [naam, handel] : handelingen) {
+        typ("6");
+        ASSERT_FALSE(txtINR().hasSelectedText()) << naam;
+        handel();
+        EXPECT_EQ(txtINR().selectedText(), txtINR().text()) << naam;
+        QTest::keyClick(&txtINR(), Qt::Key_7);
+        EXPECT_EQ(txtINR().text(), "7") << naam;
+        EXPECT_EQ(programma.huidige_regel, 3) << naam;
+    }
+}
+
+TEST_F(FrmTavelo, het_nummervak_is_uitgekozen_zodra_het_de_focus_krijgt) {
+    open_nummers({5, 6});
+    typ("6");
+    for (const Qt::FocusReason reden : {Qt::OtherFocusReason, Qt::TabFocusReason, Qt::ActiveWindowFocusReason}) {
+        grdRooster().setFocus();
+        txtINR().deselect();
+        txtINR().setFocus(reden);
+        EXPECT_EQ(txtINR().selectedText(), "6") << reden;
+    }
+    grdRooster().setFocus();
+    QTest::mouseClick(&txtINR(), Qt::LeftButton);
+    EXPECT_EQ(txtINR().selectedText(), "6");
+    QTest::mouseClick(&txtINR(), Qt::LeftButton); // a second click goes to a place in it
+    EXPECT_FALSE(txtINR().hasSelectedText());
+    QTest::keyClick(venster.get(), Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(venster->focusWidget(), &txtINR());
+}
+
+TEST_F(FrmTavelo, pijltjes_bladzijden_plus_en_min_bladeren_in_het_nummervak) {
+    open_nummers({5, 6, 7});
+    typ("6");
+    const auto druk = [this](Qt::Key toets, const char* verwacht, Qt::KeyboardModifiers met = Qt::NoModifier) {
+        QTest::keyClick(&txtINR(), toets, met);
+        EXPECT_EQ(txtINR().text(), verwacht) << toets;
+        EXPECT_EQ(txtINR().selectedText(), verwacht) << toets;
+    };
+    druk(Qt::Key_Down, "7");
+    druk(Qt::Key_Up, "6");
+    druk(Qt::Key_PageDown, "7");
+    druk(Qt::Key_PageUp, "6");
+    druk(Qt::Key_Plus, "7", Qt::ShiftModifier);
+    druk(Qt::Key_Minus, "6");
+    druk(Qt::Key_Plus, "7", Qt::KeypadModifier);
+    druk(Qt::Key_Minus, "6", Qt::KeypadModifier);
+    druk(Qt::Key_Minus, "5");
+    druk(Qt::Key_Minus, "5"); // the first one stays, and no sign is typed
+    EXPECT_EQ(programma.huidige_regel, 1);
+    typ("");
+    QTest::keyClick(&txtINR(), Qt::Key_Backspace);
+    QTest::keyClick(&txtINR(), Qt::Key_Minus);
+    QTest::keyClick(&txtINR(), Qt::Key_Plus);
+    EXPECT_EQ(txtINR().text(), "");
+}
+
+TEST_F(FrmTavelo, na_een_pauze_begint_een_cijfer_dat_niet_kan_vervolgen_een_nieuw_nummer) {
+    open_nummers({72, 1, 17});
+    quint64 nu = 1000;
+    const auto druk = [&](char cijfer, quint64 na) {
+        nu += na;
+        QKeyEvent toets(QEvent::KeyPress, Qt::Key_0 + (cijfer - '0'), Qt::NoModifier, QString(QLatin1Char(cijfer)));
+        toets.setTimestamp(nu);
+        QApplication::sendEvent(&txtINR(), &toets);
+        return txtINR().text();
+    };
+    EXPECT_EQ(druk('7', 0), "7");
+    EXPECT_EQ(druk('2', 300), "72");
+    EXPECT_EQ(druk('1', 1500), "1");
+    EXPECT_EQ(programma.huidige_regel, 2);
+    EXPECT_EQ(druk('7', 60'000), "17"); // goes on with a number of the list
+    EXPECT_EQ(programma.huidige_regel, 3);
+    EXPECT_EQ(druk('2', 1499), "172"); // no pause yet
+    EXPECT_EQ(druk('7', 2000), "7");
+}
+
+TEST_F(FrmTavelo, wissen_met_zijn_toets_en_meteen_een_nummer_typen_verliest_geen_cijfer) {
+    open_nummers({12, 124});
+    typ("12");
+    grdRooster().setFocus();
+    QTest::keyClick(venster.get(), Qt::Key_W, Qt::AltModifier);
+    for (const Qt::Key cijfer : {Qt::Key_1, Qt::Key_2, Qt::Key_4})
+        QTest::keyClick(venster->focusWidget(), cijfer);
+    EXPECT_EQ(txtINR().text(), "124");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(txtINR().text(), "124");
+    EXPECT_EQ(programma.huidige_regel, 2);
 }
 
 TEST_F(FrmTavelo, de_slotknoppen_staan_in_en_uit_en_rechts_vraagt_een_ander_bestand) {
@@ -286,6 +404,16 @@ TEST_F(FrmTavelo, de_slotknoppen_staan_in_en_uit_en_rechts_vraagt_een_ander_best
     EXPECT_EQ(opstelling.open_dialoog.requests.size(), 3U);
     EXPECT_TRUE(slot1.isChecked());
     EXPECT_EQ(grdRooster().model()->rowCount(), 3);
+}
+
+struct FrmTaveloZonderWiel : FrmTavelo {
+    FrmTaveloZonderWiel() { muiswiel = false; }
+};
+
+TEST_F(FrmTaveloZonderWiel, kiest_een_andere_muisknop_een_slot_evengoed) {
+    QTest::mouseClick(&vind("btnRooster_1"), Qt::MiddleButton);
+    EXPECT_EQ(programma.rooster_slot, 1);
+    EXPECT_TRUE(vind<QToolButton>("btnRooster_1").isChecked());
 }
 
 TEST_F(FrmTavelo, een_andere_muisknop_maakt_een_slot_het_huidige_zonder_te_laden) {

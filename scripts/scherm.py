@@ -171,7 +171,7 @@ class Scherm:
     def _start_server(self):
         lees, schrijf = os.pipe()
         # Without -noreset the server begins anew, and throws out who is just coming in, whenever its last client leaves.
-        server = subprocess.Popen(
+        self.server = server = subprocess.Popen(
             ["Xvfb", "-displayfd", str(schrijf), "-screen", "0", f"{self.breedte}x{self.hoogte}x24", "-noreset",
              "-nolisten", "tcp"],
             pass_fds=[schrijf], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)

@@ -8,6 +8,7 @@
 #include "platform/debug_log.h"
 #include "platform/dialogs.h"
 #include "platform/dutch_texts.h"
+#include "platform/ending.h"
 #include "platform/fonts.h"
 #include "platform/mouse_wheel.h"
 #include "platform/pointer.h"
@@ -55,7 +56,8 @@ int main(int argc, char** argv) {
                       {opslag, mappen, lezer, utf8(QDir::toNativeSeparators(QCoreApplication::applicationDirPath())),
                        toon_intro, instellingen});
     eigenaar.window = &venster;
+    const Ending einde([&] { venster.close(); }, [&] { bewaar_bij_afsluiten(programma, opslag); });
 
     Main(programma, opslag, mouse_wheel_present, venster);
-    return Application::exec();
+    return programma.afgesloten ? 0 : Application::exec();
 }

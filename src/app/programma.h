@@ -36,6 +36,8 @@ struct OpenLijst {
 
 struct Programma {
     Instellingen instellingen;
+    // While the settings dialog is open: what they go back to, whatever ends it but OK.
+    std::optional<Instellingen> instellingen_bij_annuleren;
     Paden paden;
     bool muiswiel_aanwezig = false;
 
@@ -70,6 +72,7 @@ struct Programma {
     std::string huidig_naam;
 
     bool deelnemer_open = false;
+    bool afgesloten = false; // the settings have been saved, once and for all
 };
 
 } // namespace tavelo

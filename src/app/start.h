@@ -19,11 +19,16 @@ class Hoofdvenster {
     virtual void muiswiel_unhook() = 0;
 };
 
-// Returns when the main window has been shown; from there the program runs on events.
+// Returns when the main window has been shown; from there the program runs on events. When it is ended while the splash
+// is up the window never shows, and `programma.afgesloten` is set.
 void Main(Programma& programma, const SettingsStore& opslag, const std::function<bool()>& bepaal_muiswiel,
           Hoofdvenster& venster);
 
 // When the main window closes.
-void sluit_af(const Programma& programma, SettingsStore& opslag, Pointer& muisaanwijzer, Hoofdvenster& venster);
+void sluit_af(Programma& programma, SettingsStore& opslag, Pointer& muisaanwijzer, Hoofdvenster& venster);
+
+// Its last step, and all that can still be done when the display is gone: saves the settings, unless that was done.
+// What was changed in a settings dialog that is still open counts as cancelled.
+void bewaar_bij_afsluiten(Programma& programma, SettingsStore& opslag);
 
 } // namespace tavelo

@@ -91,5 +91,30 @@ TEST_F(Start, na_een_gewone_sluiting_staan_alle_instellingen_als_gewone_tekst_in
     EXPECT_EQ(bewaard("Layout", "numbersize"), std::nullopt);
 }
 
+TEST_F(Start, de_instellingen_worden_een_keer_bewaard_hoe_vaak_er_ook_wordt_afgesloten) {
+    Main(
+        programma, opslag, [] { return false; }, venster);
+    programma.instellingen.showrubric = 1;
+    bewaar_bij_afsluiten(programma, opslag);
+    EXPECT_EQ(opslag.get("Vendalo 3.5 Deelnemer", "Layout", "showrubric"), "1");
+    EXPECT_TRUE(programma.afgesloten);
+    programma.instellingen.showrubric = 0;
+    bewaar_bij_afsluiten(programma, opslag);
+    sluit_af(programma, opslag, muis, venster);
+    EXPECT_EQ(opslag.flushes, 1);
+    EXPECT_EQ(opslag.get("Vendalo 3.5 Deelnemer", "Layout", "showrubric"), "1");
+}
+
+TEST_F(Start, wat_in_een_open_dialoog_veranderd_is_wordt_niet_bewaard) {
+    Main(
+        programma, opslag, [] { return false; }, venster);
+    programma.instellingen.lastfolder = "/map/";
+    programma.instellingen_bij_annuleren = programma.instellingen;
+    programma.instellingen.textsize = 200;
+    bewaar_bij_afsluiten(programma, opslag);
+    EXPECT_EQ(opslag.get("Vendalo 3.5 Deelnemer", "Layout", "textsize"), "100");
+    EXPECT_EQ(opslag.get("Vendalo 3.5 Deelnemer", "Files", "lastfolder"), "/map/");
+}
+
 } // namespace
 } // namespace tavelo

@@ -11,6 +11,7 @@ void laad_tavelo(Bediening& bediening, TaveloVenster& venster, std::string_view 
     richt_grid_in(p.grdRooster);
     p.paden = bepaal_paden(programma_map, opslag, mappen);
     venster.toon_intro();
+    if (p.afgesloten) return; // ended from outside meanwhile
     if (p.muiswiel_aanwezig) venster.muiswiel_hook();
     wis_rooster(bediening);
     p.zoek_op_nummer = true;

@@ -152,7 +152,7 @@ void lees_besturingen(const DialoogInhoud& inhoud, Instellingen& instellingen) {
 }
 
 InstellingenDialoog::InstellingenDialoog(Bediening& bediening) : bediening_(bediening) {
-    neem_over(bediening.programma.instellingen, kopie_);
+    bediening.programma.instellingen_bij_annuleren = bediening.programma.instellingen;
 }
 
 void InstellingenDialoog::ververs_voorbeeld(const DialoogInhoud& inhoud) {
@@ -163,8 +163,10 @@ void InstellingenDialoog::ververs_voorbeeld(const DialoogInhoud& inhoud) {
 }
 
 void InstellingenDialoog::sluit() {
-    if (!terugzetten_) return;
-    neem_over(kopie_, bediening_.programma.instellingen);
+    Programma& programma = bediening_.programma;
+    if (!programma.instellingen_bij_annuleren) return;
+    neem_over(*programma.instellingen_bij_annuleren, programma.instellingen);
+    programma.instellingen_bij_annuleren.reset();
     toon_overal(bediening_);
 }
 

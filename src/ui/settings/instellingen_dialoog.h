@@ -61,22 +61,20 @@ void lees_besturingen(const DialoogInhoud& inhoud, Instellingen& instellingen);
 // One opening of the dialog, from load to close.
 class InstellingenDialoog {
   public:
-    // Keeps a copy of the edited settings. `bediening` must outlive the dialog.
+    // Keeps a copy of the settings with the program. `bediening` must outlive the dialog.
     explicit InstellingenDialoog(Bediening& bediening);
 
     // After every change of a control: the controls go into the settings, the start list of a worksheet follows the
     // column letters, and the display is composed again.
     void ververs_voorbeeld(const DialoogInhoud& inhoud);
 
-    void ok() { terugzetten_ = false; }
+    void ok() { bediening_.programma.instellingen_bij_annuleren.reset(); }
     // On every close. Without OK the copy goes back and the display is composed again; the start list keeps the columns
     // of the last change until the worksheet is opened again, it is meant so.
     void sluit();
 
   private:
     Bediening& bediening_;
-    Instellingen kopie_;
-    bool terugzetten_ = true;
 };
 
 } // namespace tavelo

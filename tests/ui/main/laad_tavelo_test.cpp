@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace tavelo {
 namespace {
 
@@ -22,7 +24,11 @@ struct ProefTavelo final : TaveloVenster {
                           " zoekt=" + (programma.zoek_op_nummer ? "ja" : "nee"));
     }
     void bouw_menu() override { noteer("menu"); }
-    void toon_intro() override { noteer("intro"); }
+    std::function<void()> tijdens_intro = [] {};
+    void toon_intro() override {
+        noteer("intro");
+        tijdens_intro();
+    }
     void muiswiel_hook() override { noteer("wiel"); }
     void toon_venster() override { noteer("venster"); }
 };
@@ -49,6 +55,14 @@ struct LaadTavelo : testing::Test {
         laad_tavelo(bediening, venster, map.file("programma"), opslag, mappen);
     }
 };
+
+TEST_F(LaadTavelo, een_einde_tijdens_het_beginscherm_toont_geen_venster_meer) {
+    programma.muiswiel_aanwezig = true;
+    venster.tijdens_intro = [this] { programma.afgesloten = true; };
+    laad();
+    ASSERT_EQ(venster.stappen.size(), 2U);
+    EXPECT_TRUE(venster.stappen.back().starts_with("intro"));
+}
 
 TEST_F(LaadTavelo, zet_de_stappen_in_hun_volgorde) {
     programma.muiswiel_aanwezig = true;

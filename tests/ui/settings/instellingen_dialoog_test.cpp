@@ -305,6 +305,21 @@ TEST(InstellingenDialoog, de_laatste_map_hoort_niet_bij_de_kopie) {
     EXPECT_EQ(proef.programma.instellingen.lastfolder, "D:\\Elders\\");
 }
 
+TEST(InstellingenDialoog, zolang_zij_open_is_weet_het_programma_waarop_annuleren_teruggaat) {
+    for (const bool ok : {true, false}) {
+        test::InstellingenOpstelling proef;
+        const Instellingen eerst = proef.programma.instellingen;
+        InstellingenDialoog dialoog(proef.bediening);
+        DialoogInhoud inhoud = geladen(proef);
+        wijzig(dialoog, inhoud, "HScrollDeelnemerTekstGrootte", 250);
+        EXPECT_EQ(proef.programma.instellingen_bij_annuleren, eerst);
+        if (ok) dialoog.ok();
+        dialoog.sluit();
+        EXPECT_EQ(proef.programma.instellingen_bij_annuleren, std::nullopt);
+        EXPECT_EQ(proef.programma.instellingen.textsize, ok ? 250 : eerst.textsize);
+    }
+}
+
 TEST(InstellingenDialoog, ok_houdt_de_wijzigingen) {
     test::InstellingenOpstelling proef;
     InstellingenDialoog dialoog(proef.bediening);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs the fuzz targets one after another under sanitizers, each SECONDS long (600), starting from the files of the
-# project. What breaks a target is left in build/fuzz/findings.
+# Builds the fuzz targets and runs them one after another under sanitizers, each SECONDS long (600), starting from the
+# files of the project. What breaks a target is left in build/fuzz/findings; the others run all the same.
 #     scripts/fuzz.sh [SECONDS [TARGET...]]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -16,20 +16,8 @@ install_missing "${packages_run[@]}" "${packages_fuzz[@]}"
 cmake --preset fuzz
 cmake --build build/fuzz --target "${targets[@]}"
 
-mkdir -p build/fuzz/findings
+broken=()
 for target in "${targets[@]}"; do
-    echo "== $target, $seconds s"
-    corpus=build/fuzz/corpus/$target
-    seeds=build/fuzz/seeds/$target
-    rm -rf "$seeds"
-    mkdir -p "$corpus" "$seeds"
-    case $target in
-    *xlsx*) find examples tests fuzz -name '*.xlsx*' -exec cp --target-directory="$seeds" {} + ;;
-    *xls*) find examples tests -name '*.xls' -exec cp --target-directory="$seeds" {} + ;;
-    *lookalike*) cp --target-directory="$seeds" fuzz/seeds/lookalike/* ;;
-    *schedule*) cp --target-directory="$seeds" examples/*.rst ;;
-    *merge*) cat examples/dressuur.rst examples/springen.rst >"$seeds/ander"; cat examples/mennen.rst{,} >"$seeds/zelfde" ;;
-    esac
-    "build/fuzz/fuzz/$target" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=4096 -print_final_stats=1 \
-        -artifact_prefix="build/fuzz/findings/$target-" "$corpus" "$seeds"
+    scripts/fuzz_target.sh "$seconds" "$target" || broken+=("$target")
 done
+[ "${#broken[@]}" -eq 0 ] || { echo "broken: ${broken[*]}"; exit 1; }

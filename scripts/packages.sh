@@ -19,9 +19,11 @@ packages_test=(
     libgtest-dev libbenchmark-dev clang-format-14
 )
 
-# Only on request: benchmarks (scripts/bench.sh), fuzzing (scripts/fuzz.sh; <expected> needs clang 16), the example workbook.
-packages_bench=(libbenchmark-dev unzip python3-xlsxwriter python3-openpyxl python3-xlrd)
+# To fuzz, in the tests for a short while and with scripts/fuzz.sh for longer; <expected> needs clang 16.
 packages_fuzz=(clang-16 libclang-rt-16-dev)
+
+# Only on request: benchmarks (scripts/bench.sh), the example workbook.
+packages_bench=(libbenchmark-dev unzip python3-xlsxwriter python3-openpyxl python3-xlrd)
 packages_examples=(python3-xlsxwriter)
 
 # install_missing PACKAGE...: asks apt for what is not installed yet and stays silent when nothing is missing.

@@ -10,15 +10,20 @@ cd "$(dirname "$0")/.."
 step() { printf '\n== %s (%s s)\n' "$1" "$SECONDS"; }
 
 step "install"
-install_missing "${packages_run[@]}" "${packages_demo[@]}" "${packages_test[@]}"
+install_missing "${packages_run[@]}" "${packages_demo[@]}" "${packages_test[@]}" "${packages_fuzz[@]}"
 
 step "build: release, all targets, the benchmarks too though they do not run here"
-cmake --preset release -DTAVELO_TESTS=ON -DTAVELO_BENCH=ON -DTAVELO_SANITIZED_BUILD="$PWD/build/asan"
+cmake --preset release -DTAVELO_TESTS=ON -DTAVELO_BENCH=ON -DTAVELO_SANITIZED_BUILD="$PWD/build/asan" \
+    -DTAVELO_FUZZ_SECONDS=20
 cmake --build build/release --target all bench
 
 step "build: the rules with address and undefined-behaviour sanitizers"
 cmake --preset asan
 cmake --build build/asan --target kern_tests
+
+step "build: the fuzz targets"
+cmake --preset fuzz
+cmake --build build/fuzz --target fuzz
 
 step "test"
 ctest --test-dir build/release --output-on-failure --parallel "$(nproc)" --no-tests=error

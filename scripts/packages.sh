@@ -5,7 +5,7 @@
 packages_run=(
     cmake ninja-build g++ pkgconf
     qt6-base-dev libgl1-mesa-dev libzip-dev libexpat1-dev libssl-dev
-    fonts-liberation
+    fonts-liberation cmark-gfm
 )
 
 # To play the demonstration on a virtual display: server, window manager, keys and mouse, pictures.
@@ -18,6 +18,9 @@ packages_demo=(
 packages_test=(
     libgtest-dev libbenchmark-dev clang-format-14
 )
+
+# To make the Debian package and have it checked (./package).
+packages_package=(dpkg-dev file lintian appstream desktop-file-utils)
 
 # To fuzz, in the tests for a short while and with scripts/fuzz.sh for longer; <expected> needs clang 16.
 packages_fuzz=(clang-16 libclang-rt-16-dev)

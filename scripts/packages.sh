@@ -1,5 +1,5 @@
 # The Debian 12 packages of the project, and how to get those that are missing. Sourced by the other scripts.
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034 # the lists are for whoever sources this
 
 # To build and run the program. The fonts give the display its metric equal of Arial.
 packages_run=(

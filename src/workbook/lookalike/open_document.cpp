@@ -302,10 +302,13 @@ class ManifestHandler : public XmlHandler {
     bool is_locked_ = false;
 };
 
-bool is_locked(const Package& package) {
+// Why it does not open: a password, or what went wrong on the way to know that. A manifest that is missing or broken
+// says nothing.
+std::optional<OpenFailure> lock_of(const Package& package) {
     ManifestHandler handler;
     const auto read = read_xml(package, "META-INF/manifest.xml", largest_list_part, handler);
-    return read && handler.is_locked();
+    if (!read && read.error() != OpenFailure::damaged) return read.error();
+    return handler.is_locked() ? std::optional(OpenFailure::password) : std::nullopt;
 }
 
 } // namespace
@@ -313,7 +316,7 @@ bool is_locked(const Package& package) {
 bool is_open_document(const Package& package) { return package.has(content_part) && !package.has("_rels/.rels"); }
 
 std::expected<std::unique_ptr<Workbook>, OpenFailure> open_open_document(std::unique_ptr<Package> package) {
-    if (is_locked(*package)) return std::unexpected(OpenFailure::password);
+    if (const auto why = lock_of(*package)) return std::unexpected(*why);
     auto book = std::make_unique<OpenDocument>(std::move(package));
     if (const auto opened = book->open(); !opened) return std::unexpected(opened.error());
     return book;

@@ -65,8 +65,9 @@ constexpr AmountFormats euro_behind = {
     R"(_-* #,##0.00\ "€"_-;\-* #,##0.00\ "€"_-;_-* "-"??\ "€"_-;_-@_-)",
 };
 
-// The words of the errors that came with Excel 365: Dutch #OVERLOPEN! and #BEREKENEN! as published; for the other three
-// the words of the same list. France's words for the second and the third were not found: they stay English.
+// The errors that came with Excel 365: #OVERLOPEN!, #BEREKENEN!, #ÜBERLAUF!, #KALK!, #PROPAGATION! and #CHAMP! stand in
+// public texts. For #VELD!, #GEBLOKKEERD! and #VERBINDEN! none was found: they are translations. Where German or French
+// has none, the English word stays.
 Locale dutch() {
     return {
         .name = "nl-NL",
@@ -158,7 +159,7 @@ Locale german() {
         .true_word = "WAHR",
         .false_word = "FALSCH",
         .errors = {"#NULL!", "#DIV/0!", "#WERT!", "#BEZUG!", "#NAME?", "#ZAHL!", "#NV", "#DATEN_ABRUFEN", "#ÜBERLAUF!",
-                   "#VERBINDEN!", "#BLOCKIERT!", "#FELD!", "#KALK!"},
+                   "#CONNECT!", "#BLOCKED!", "#FIELD!", "#KALK!"},
         .amounts = euro_behind,
     };
 }

@@ -27,6 +27,10 @@ TEST(Landinstelling, geeft_woorden_en_fouten_in_haar_taal) {
     EXPECT_EQ(locale_named("en-GB").errors[6], "#N/A");
     EXPECT_EQ(locale_named("de-DE").true_word, "WAHR");
     EXPECT_EQ(locale_named("fr-FR").errors[4], "#NOM?");
+    EXPECT_EQ(locale_named("de-DE").errors[8], "#ÜBERLAUF!");
+    EXPECT_EQ(locale_named("de-DE").errors[12], "#KALK!");
+    EXPECT_EQ(locale_named("fr-FR").errors[8], "#PROPAGATION!");
+    EXPECT_EQ(locale_named("fr-FR").errors[11], "#CHAMP!");
 }
 
 } // namespace

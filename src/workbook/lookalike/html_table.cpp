@@ -149,7 +149,7 @@ class TableReader {
         while (next_column_ < covered_until_.size() && covered_until_[next_column_] > row_)
             ++next_column_;
         column_ = std::min(next_column_, most_html_columns);
-        const unsigned columns = std::min(token.number("colspan"), most_html_columns - column_);
+        const unsigned columns = std::min(token.number("colspan"), most_html_columns);
         const unsigned rows = std::min(token.number("rowspan"), most_rows_spanned);
         next_column_ = column_ + columns;
         if (rows > 1) {

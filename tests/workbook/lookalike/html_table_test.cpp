@@ -118,6 +118,12 @@ TEST(HtmlAlsWerkmap, de_tekenset_volgt_uit_de_pagina_of_is_windows_1252) {
     EXPECT_EQ(csv_of(std::string("\xEF\xBB\xBF<table><tr><td>Zoë</td></tr><tr><td>2</td></tr></table>")), "Zoë\n2\n");
 }
 
+TEST(HtmlAlsWerkmap, een_pagina_die_excel_zelf_bewaarde_is_een_pagina) {
+    EXPECT_EQ(csv_of("<html xmlns:ss=\"urn:schemas-microsoft-com:office:spreadsheet\">" +
+                     table("<tr><td>1</td></tr><tr><td>2<br></td></tr>")),
+              "1\n2\n");
+}
+
 TEST(HtmlAlsWerkmap, woorden_voor_de_tabel_schaden_niet) {
     EXPECT_EQ(csv_of("Warning: iets ging mis\n" + table("<tr><td>1</td></tr><tr><td>2</td></tr>")), "1\n2\n");
 }

@@ -138,20 +138,22 @@ def een_volle_schijf_laat_het_oude_bestand_heel(opties):
     vooraf = ["unshare", "--mount", "sh", "-c", script, str(klaar), str(loop.ini), str(loop.map), str(uitkomst)]
     with ThreadPoolExecutor(1) as lezer:
         nummer = lezer.submit(lambda: int(klaar.read_text(encoding="ascii")))
-        loop.start(vooraf=vooraf)
+        loop.start("write *.nieuw log", vooraf)
         os.kill(nummer.result(GEDULD), signal.SIGTERM)
     loop.proces.wait(GEDULD)
+    eis("write log" in loop.log.read_text(encoding="utf-8"), "er is niet geschreven")
     eis(uitkomst.read_text(encoding="utf-8") == f"{OUD}{INI_NAAM}\nvulsel\n",
         f"er staat: {uitkomst.read_text(encoding='utf-8')!r}")
 
 
 def wat_niet_te_lezen_was_wordt_niet_door_standaardwaarden_vervangen(opties):
-    for fout in ("open *Deelnemer.ini EACCES 1-2", "open *Deelnemer.ini EMFILE 1-2", "read *Deelnemer.ini EIO 1-2"):
-        loop = Loop(opties)
-        loop.start(fout)
-        loop.beeindig()
-        eis(loop.geraakt(fout.split()[2]) == 2, f"niet geraakt: {fout}")
-        eis("backcolor=&HFF\ntextsize=130\n" in loop.tekst(), f"na {fout}: {loop.tekst()!r}")
+    for fout in ("open *Deelnemer.ini EACCES", "open *Deelnemer.ini EMFILE", "read *Deelnemer.ini EIO"):
+        for keer, verwacht in ((1, "textsize=130\n"), (2, "backcolor=&HFF\ntextsize=130\n")):
+            loop = Loop(opties)
+            loop.start(f"{fout} 1-{keer}")
+            loop.beeindig()
+            eis(loop.geraakt(fout.split()[2]) == keer, f"niet geraakt: {fout}")
+            eis(verwacht in loop.tekst() and "showrubric=0\n" in loop.tekst(), f"na {fout}: {loop.tekst()!r}")
 
 
 def wat_geen_gewoon_bestand_is_blijft(opties):
@@ -271,7 +273,25 @@ def wat_niet_met_ok_gekozen_is_wordt_ook_zonder_scherm_niet_bewaard(opties):
     met_scherm(opties, False, lambda loop: loop.scherm.server.kill(), 1, "showrubric=0\n")
 
 
+def een_sein_onder_een_open_dialoog_sluit_af(opties):
+    for kleur in (False, True):
+        with contextlib.ExitStack() as taken:
+            loop = SchermLoop(opties, taken)
+            if kleur:
+                loop.kies(ok=False)
+                loop.scherm.toets("alt+c")
+                loop.scherm.venster("Kleur kiezen", GEDULD)
+            else:
+                loop.hoofd.activeer()
+                loop.scherm.toets("ctrl+o")
+                loop.scherm.venster("Rooster openen", GEDULD)
+            loop.proces.send_signal(signal.SIGTERM)
+            tekst = loop.einde(0)
+            eis("backcolor=255\n" in tekst and "showrubric=0\n" in tekst, f"er staat: {tekst!r}")
+
+
 PROEVEN = [
+    een_sein_onder_een_open_dialoog_sluit_af,
     ok_overleeft_sigterm,
     ok_overleeft_sighup,
     ok_overleeft_een_scherm_dat_weg_is,

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QDebug>
+#include <QPixmapCache>
 #include <QShortcutEvent>
 
 #include <exception>
@@ -23,6 +24,12 @@ bool clicks_at_once(QObject* receiver, QEvent* event) {
 }
 
 } // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    // In KiB. The toolkit keeps a picture of every button in every state and size, ten megabytes of them by the end of
+    // a day; those of the windows that are open fit in this.
+    QPixmapCache::setCacheLimit(512);
+}
 
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {

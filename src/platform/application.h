@@ -7,7 +7,7 @@ namespace tavelo {
 
 class Application final : public QApplication {
   public:
-    using QApplication::QApplication;
+    Application(int& argc, char** argv);
     // The event counts as handled and the program goes on; what went wrong is written to the log.
     bool notify(QObject* receiver, QEvent* event) override;
 };

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QPixmapCache>
 #include <QStandardPaths>
 #include <QWidget>
 
@@ -43,6 +44,10 @@ TEST(ZetTransparantie, gaat_van_onzichtbaar_naar_ondoorzichtig) {
     EXPECT_NEAR(venster.windowOpacity(), 0.2, 0.005);
     zet_transparantie(venster, 255);
     EXPECT_EQ(venster.windowOpacity(), 1);
+}
+
+TEST(Application, wat_het_toolkit_aan_plaatjes_bewaart_heeft_een_grens) {
+    EXPECT_LE(QPixmapCache::cacheLimit(), 512); // KiB
 }
 
 TEST(QtPointer, de_zandloper_gaat_per_paar_aan_en_uit) {

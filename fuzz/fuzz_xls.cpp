@@ -1,4 +1,5 @@
-// Opens the bytes as an .xls workbook and reads its sheets; whatever they are, every index in the answer must hold.
+// Opens the bytes as an .xls workbook, reads its sheets and renders their texts; whatever the bytes are, every index in
+// the answer must hold.
 #include "workbook/workbook.h"
 
 #include <algorithm>
@@ -14,12 +15,16 @@ void require(bool condition) {
 }
 
 void check(const tavelo::Sheet& sheet, const tavelo::Workbook& workbook) {
+    tavelo::DisplayedTexts texts(workbook, tavelo::locale_named("nl-NL"));
+    std::size_t shown = 0; // bytes
     for (const tavelo::Cell& cell : sheet.cells) {
         require(cell.format < workbook.formats().size());
         require(cell.kind != tavelo::CellKind::text || cell.text < workbook.texts().size());
         require(cell.row - sheet.used.first_row < sheet.used.rows);
         require(cell.column - sheet.used.first_column < sheet.used.columns);
+        shown += texts.of(cell).size();
     }
+    require(shown <= tavelo::most_shown_bytes);
 }
 
 } // namespace

@@ -19,7 +19,9 @@ seed_with() {
         cp "$file" "$seeds/${file//\//_}"
     done
 }
-limits=(-timeout=20 -rss_limit_mb=4096)
+# No input of a fuzzer's size may take more of a computer than this. The sanitizer keeps freed memory, which counts too.
+limits=(-timeout=5 -rss_limit_mb=512)
+export ASAN_OPTIONS=quarantine_size_mb=16${ASAN_OPTIONS:+:$ASAN_OPTIONS}
 case $target in
 *xlsx*) mapfile -t files < <(find examples tests fuzz -type f -name '*.xlsx*'); seed_with "${files[@]}" ;;
 *xls*) mapfile -t files < <(find examples tests -type f -name '*.xls'); seed_with "${files[@]}" ;;

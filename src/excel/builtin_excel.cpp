@@ -13,40 +13,72 @@ namespace {
 
 std::unexpected<std::string> refuse(std::string_view sentence) { return std::unexpected(std::string(sentence)); }
 
-struct ReadSheet {
-    ReadSheet(Sheet read, const Workbook& workbook, const Locale& locale)
-        : sheet(std::move(read)), box(box_to_show(sheet)), texts(workbook, locale) {}
+// An open workbook and the words it is shown in.
+struct Source {
+    std::unique_ptr<Workbook> workbook;
+    Locale locale;
+};
 
-    Sheet sheet;
-    UsedRange box;
-    DisplayedTexts texts;
+// Keeps the workbook, so that what was taken from it stays usable when it is closed.
+class ReadSheet {
+  public:
+    ReadSheet(Sheet read, std::shared_ptr<const Source> source)
+        : source_(std::move(source)),
+          sheet_(std::move(read)),
+          box_(box_to_show(sheet_)),
+          texts_(*source_->workbook, source_->locale) {}
+
+    [[nodiscard]] const UsedRange& box() const { return box_; }
+    [[nodiscard]] double column_width(std::uint32_t column) const {
+        const auto& widths = sheet_.column_widths;
+        return column < widths.size() ? widths[column] : sheet_.default_column_width;
+    }
+    // Null for a place without a cell. Quickest for a cell behind the one before: that is how a sheet is copied.
+    [[nodiscard]] const Cell* find(std::uint32_t row, std::uint32_t column) {
+        const auto is_here = [&](std::size_t index) {
+            return index < sheet_.cells.size() && sheet_.cells[index].row == row &&
+                   sheet_.cells[index].column == column;
+        };
+        if (is_here(found_)) return &sheet_.cells[found_];
+        if (is_here(found_ + 1)) return &sheet_.cells[++found_];
+        const Cell* const cell = cell_at(sheet_, row, column);
+        if (cell != nullptr) found_ = static_cast<std::size_t>(cell - sheet_.cells.data());
+        return cell;
+    }
+
+    [[nodiscard]] std::string_view text_of(const Cell& cell) { return texts_.of(cell); }
+    [[nodiscard]] std::string stored_text_of(const Cell& cell) const {
+        if (cell.kind == CellKind::text) return std::string(source_->workbook->texts()[cell.text]);
+        return cell.kind == CellKind::blank ? std::string() : number_text(cell.number);
+    }
+
+  private:
+    std::shared_ptr<const Source> source_;
+    Sheet sheet_;
+    UsedRange box_;
+    DisplayedTexts texts_;
+    std::size_t found_ = 0; // the cell found last
 };
 
 // What the objects of one open workbook share; each of them may be the last to let go.
 class OpenBook {
   public:
     OpenBook(std::unique_ptr<Workbook> workbook, const Locale& locale)
-        : locale_(locale), workbook_(std::move(workbook)) {}
+        : source_(std::make_shared<const Source>(std::move(workbook), locale)) {}
 
-    std::span<const SheetInfo> sheets() const { return workbook_->sheets(); }
+    std::span<const SheetInfo> sheets() const { return source_->workbook->sheets(); }
 
     // Read once. Only the sheets that are asked for: of a workbook of fifty, the program shows one.
     std::expected<std::shared_ptr<ReadSheet>, OpenFailure> sheet(std::size_t index) {
         auto& known = sheets_[index];
         if (known) return known;
-        auto sheet = workbook_->read_sheet(index);
+        auto sheet = source_->workbook->read_sheet(index);
         if (!sheet) return std::unexpected(sheet.error());
-        return known = std::make_shared<ReadSheet>(std::move(*sheet), *workbook_, locale_);
-    }
-
-    std::string stored_text_of(const Cell& cell) const {
-        if (cell.kind == CellKind::text) return std::string(workbook_->texts()[cell.text]);
-        return cell.kind == CellKind::blank ? std::string() : number_text(cell.number);
+        return known = std::make_shared<ReadSheet>(std::move(*sheet), source_);
     }
 
   private:
-    Locale locale_;
-    std::unique_ptr<Workbook> workbook_;
+    std::shared_ptr<const Source> source_;
     std::map<std::size_t, std::shared_ptr<ReadSheet>> sheets_;
 };
 
@@ -63,26 +95,18 @@ class BuiltinUsedRange : public ExcelUsedRange {
 
 class BuiltinCell : public ExcelRange {
   public:
-    BuiltinCell(std::shared_ptr<OpenBook> book, std::shared_ptr<ReadSheet> sheet, std::uint32_t row,
-                std::uint32_t column)
-        : book_(std::move(book)),
-          sheet_(std::move(sheet)),
-          cell_(cell_at(sheet_->sheet, row, column)),
-          column_(column) {}
+    BuiltinCell(std::shared_ptr<ReadSheet> sheet, std::uint32_t row, std::uint32_t column)
+        : sheet_(std::move(sheet)), cell_(sheet_->find(row, column)), column_(column) {}
 
-    Automation<double> Width() override {
-        const auto& widths = sheet_->sheet.column_widths;
-        return column_ < widths.size() ? widths[column_] : sheet_->sheet.default_column_width;
-    }
+    Automation<double> Width() override { return sheet_->column_width(column_); }
     Automation<std::string> Value() override {
-        return cell_ == nullptr ? std::string() : book_->stored_text_of(*cell_);
+        return cell_ == nullptr ? std::string() : sheet_->stored_text_of(*cell_);
     }
     Automation<std::string> Text() override {
-        return cell_ == nullptr ? std::string() : std::string(sheet_->texts.of(*cell_));
+        return cell_ == nullptr ? std::string() : std::string(sheet_->text_of(*cell_));
     }
 
   private:
-    std::shared_ptr<OpenBook> book_;
     std::shared_ptr<ReadSheet> sheet_;
     const Cell* cell_; // null for a place without a cell
     std::uint32_t column_;
@@ -93,30 +117,31 @@ class BuiltinWorksheet : public ExcelWorksheet {
     BuiltinWorksheet(std::shared_ptr<OpenBook> book, std::size_t index) : book_(std::move(book)), index_(index) {}
 
     Automation<std::unique_ptr<ExcelUsedRange>> UsedRange() override {
-        const auto sheet = read();
-        if (!sheet) return std::unexpected(sheet.error());
-        return std::make_unique<BuiltinUsedRange>((*sheet)->box);
+        if (const auto read = read_once(); !read) return std::unexpected(read.error());
+        return std::make_unique<BuiltinUsedRange>(sheet_->box());
     }
 
     Automation<std::unique_ptr<ExcelRange>> Cells(int row, int column) override {
-        const auto sheet = read();
-        if (!sheet) return std::unexpected(sheet.error());
+        if (const auto read = read_once(); !read) return std::unexpected(read.error());
         if (row < 1 || column < 1) return refuse("Deze cel bestaat niet.");
-        return std::make_unique<BuiltinCell>(book_, *sheet, static_cast<std::uint32_t>(row - 1),
+        return std::make_unique<BuiltinCell>(sheet_, static_cast<std::uint32_t>(row - 1),
                                              static_cast<std::uint32_t>(column - 1));
     }
 
   private:
-    Automation<std::shared_ptr<ReadSheet>> read() {
+    Automation<void> read_once() {
+        if (sheet_) return {};
         const SheetKind kind = book_->sheets()[index_].kind;
         if (kind == SheetKind::chart || kind == SheetKind::dialog) return refuse("Dit blad heeft geen cellen.");
         auto sheet = book_->sheet(index_);
         if (!sheet) return refuse(sentence_of(sheet.error()));
-        return *sheet;
+        sheet_ = std::move(*sheet);
+        return {};
     }
 
     std::shared_ptr<OpenBook> book_;
     std::size_t index_;
+    std::shared_ptr<ReadSheet> sheet_; // once it has been asked for
 };
 
 class BuiltinSheets : public ExcelSheets {

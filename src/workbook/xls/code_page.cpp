@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace tavelo {
 
@@ -126,7 +127,10 @@ char16_t character_of_byte(std::uint8_t byte) {
 std::string utf8_of(std::u16string_view text) {
     std::string result;
     result.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto beyond_ascii = std::ranges::find_if(text, [](char16_t unit) { return unit >= 0x80; });
+    std::transform(text.begin(), beyond_ascii, std::back_inserter(result),
+                   [](char16_t unit) { return static_cast<char>(unit); });
+    for (std::size_t i = result.size(); i < text.size(); ++i) {
         const char16_t unit = text[i];
         if (is_high_surrogate(unit) && i + 1 < text.size() && is_low_surrogate(text[i + 1])) {
             append_utf8(result, 0x10000U + ((unit - 0xD800U) << 10) + (text[i + 1] - 0xDC00U));

@@ -21,7 +21,7 @@ constexpr std::size_t most_column_runs = sheet_columns;
 
 enum class StoredAs { number, shared_string, inline_string, string, boolean, error, date };
 
-StoredAs stored_as(std::optional<std::string_view> type) {
+StoredAs stored_as(std::string_view type) {
     if (type == "s") return StoredAs::shared_string;
     if (type == "str") return StoredAs::string;
     if (type == "inlineStr") return StoredAs::inline_string;
@@ -102,6 +102,7 @@ class SheetHandler : public XmlHandler {
         } else if (depth == 5) {
             inside_value_ = name == "v";
             inside_rich_text_ = name == "is";
+            has_rich_text_ = has_rich_text_ || inside_rich_text_;
             has_value_ = has_value_ || inside_value_ || inside_rich_text_;
             preserve_ = attributes.find("space") == "preserve";
         } else if (inside_rich_text_) {
@@ -181,25 +182,31 @@ class SheetHandler : public XmlHandler {
         cell_ = Cell{};
         value_.clear();
         has_value_ = false;
+        has_rich_text_ = false;
+        stored_as_ = StoredAs::number;
         cell_.row = row_;
         std::uint32_t column = next_column_;
-        if (const auto reference = attributes.find("r")) {
-            if (const auto place = parse_cell_reference(*reference)) {
-                column = place->column;
-                cell_.row = place->row.value_or(row_);
+        attributes.each([&](std::string_view name, std::string_view value) {
+            if (name == "r") {
+                if (const auto place = parse_cell_reference(value)) {
+                    column = place->column;
+                    cell_.row = place->row.value_or(row_);
+                }
+            } else if (name == "s") {
+                cell_.format = context_.styles.format_of(number_of<unsigned>(value).value_or(0));
+            } else if (name == "t") {
+                stored_as_ = stored_as(value);
             }
-        }
+        });
         next_column_ = column + 1;
         inside_sheet_ = column < sheet_columns && cell_.row < sheet_rows;
         if (!inside_sheet_) return;
         cell_.column = static_cast<std::uint16_t>(column);
-        cell_.format = context_.styles.format_of(attributes.number("s").value_or(0));
-        stored_as_ = stored_as(attributes.find("t"));
         used_.add_cell(cell_.row, column);
     }
 
     void cell_end() {
-        const std::string rich = rich_text_.take();
+        const std::string rich = has_rich_text_ ? rich_text_.take() : std::string();
         if (!inside_sheet_ || !has_value_) return;
         switch (stored_as_) {
         case StoredAs::number:
@@ -308,6 +315,7 @@ class SheetHandler : public XmlHandler {
     bool inside_data_ = false;
     bool inside_sheet_ = false;
     bool has_value_ = false;
+    bool has_rich_text_ = false;
     bool inside_value_ = false;
     bool inside_rich_text_ = false;
     bool preserve_ = false; // the white space at the ends of a <v>

@@ -21,11 +21,6 @@ constexpr unsigned deepest_level = 200;
 // An unfinished tag is scanned again with every chunk, so a tag without an end would take quadratic time.
 constexpr XML_Index longest_tag = 1024 * 1024;
 
-std::string_view local_name(std::string_view name) {
-    const auto colon = name.rfind(':');
-    return colon == std::string_view::npos ? name : name.substr(colon + 1);
-}
-
 template <class Number>
 std::optional<Number> number_in(std::string_view text) {
     text = trim_xml_space(text);
@@ -63,7 +58,7 @@ class Reading {
         } catch (const std::bad_alloc&) {
             out_of_memory_ = true;
         }
-        if (out_of_memory_ || handler_.stopped()) refuse();
+        if (out_of_memory_) refuse();
     }
 
     std::unique_ptr<std::remove_pointer_t<XML_Parser>, FreeParser> parser_;
@@ -134,10 +129,12 @@ std::expected<void, OpenFailure> Reading::finish() {
 void Reading::start(const XML_Char* name, const XML_Char** attributes) {
     if (++depth_ > deepest_level) return refuse();
     hand_on([&] { handler_.element_start(local_name(name), depth_, XmlAttributes(attributes)); });
+    if (handler_.stopped()) refuse();
 }
 
 void Reading::end(const XML_Char* name) {
     hand_on([&] { handler_.element_end(local_name(name), depth_--); });
+    if (handler_.stopped()) refuse();
 }
 
 void Reading::text(std::string_view piece) {

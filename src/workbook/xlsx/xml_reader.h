@@ -14,10 +14,22 @@ namespace tavelo {
 
 class Package;
 
+// Without the prefix.
+[[nodiscard]] inline std::string_view local_name(std::string_view name) {
+    const auto colon = name.rfind(':');
+    return colon == std::string_view::npos ? name : name.substr(colon + 1);
+}
+
 class XmlAttributes {
   public:
     // `pairs`: name, value, name, value, null.
     explicit XmlAttributes(const char* const* pairs) : pairs_(pairs) {}
+    // Calls `use` with the local name and the value of each, in the order of the tag.
+    template <class Use>
+    void each(Use use) const {
+        for (const char* const* pair = pairs_; *pair != nullptr; pair += 2)
+            use(local_name(pair[0]), std::string_view(pair[1]));
+    }
     // The value of the attribute with this local name.
     [[nodiscard]] std::optional<std::string_view> find(std::string_view name) const;
     // Without the attribute, or when it is no whole number that fits: nothing.

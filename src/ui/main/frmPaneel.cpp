@@ -9,7 +9,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QScreen>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -18,9 +18,18 @@ namespace tavelo {
 
 namespace {
 
-constexpr Breedten ruim{784, 140, 70, 78, 48, 1.3};
-constexpr Breedten krap{570, 110, 60, 66, 40, 1};
-constexpr int ruim_scherm = 1200;
+// In device-independent pixels; a button is wider where the letter of the desktop asks for it.
+struct Breedten {
+    int nummervak;
+    int bladerknop;
+    int slotknop;
+    int snelknop;
+    int plaatje;
+    double nummerlabel; // its letter, relative to that of the desktop
+};
+constexpr Breedten een_rij{140, 70, 78, 48, 32, 1.3};
+constexpr Breedten twee_rijen_breed{110, 60, 60, 36, 20, 1};
+constexpr int tussen = 4;
 
 QString genummerd(const QString& naam, std::size_t index) { return QStringLiteral("%1_%2").arg(naam).arg(index); }
 
@@ -31,40 +40,81 @@ QToolButton* maak_knop(QWidget* ouder, const QString& naam, const QString& toega
     knop->setToolTip(uitleg);
     knop->setAutoRaise(false);
     knop->setFocusPolicy(Qt::TabFocus); // a click leaves the focus in the number box
-    knop->setIconSize(QSize(32, 32));
     return knop;
-}
-
-// Wider where the letter of the desktop asks for it.
-void zet_maat(QToolButton& knop, int breedte) {
-    knop.setFixedSize(std::max(breedte, knop.sizeHint().width()), paneelhoogte);
 }
 
 } // namespace
 
-const Breedten& breedten(const QWidget& venster) {
-    const QScreen* scherm = venster.screen();
-    return scherm && scherm->availableGeometry().width() < ruim_scherm ? krap : ruim;
+Paneel::Paneel(const Grid& rooster, PaneelActies acties, QWidget* ouder) : QWidget(ouder), acties_(std::move(acties)) {
+    bouw_nummervak(rooster);
+    bouw_bladerknoppen();
+    bouw_slotknoppen();
+    bouw_snelknoppen();
+    zet_ruimte(Ruimte::ruim);
 }
 
-Paneel::Paneel(const Grid& rooster, PaneelActies acties, QWidget* ouder) : QWidget(ouder), acties_(std::move(acties)) {
+void Paneel::zet_maten(bool twee_rijen) {
+    const Breedten& maten = twee_rijen ? twee_rijen_breed : een_rij;
+    const int hoogte = twee_rijen ? (paneelhoogte - tussen) / 2 : paneelhoogte;
+    QFont letter = font();
+    letter.setPointSizeF(letter.pointSizeF() * maten.nummerlabel);
+    lblNummer_->setFont(letter);
+    txtINR_->setFixedSize(maten.nummervak, paneelhoogte);
+    const auto zet_knop = [&](QToolButton* knop, int breedte) {
+        knop->setIconSize(QSize(maten.plaatje, maten.plaatje));
+        knop->setFixedSize(std::max(breedte, knop->sizeHint().width()), hoogte);
+    };
+    for (QToolButton* knop : btnBlader_) {
+        knop->setToolButtonStyle(twee_rijen ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonTextUnderIcon);
+        zet_knop(knop, maten.bladerknop);
+    }
+    for (QToolButton* knop : btnRooster_)
+        zet_knop(knop, maten.slotknop);
+    for (QToolButton* knop : btnFast_)
+        zet_knop(knop, maten.snelknop);
+}
+
+void Paneel::zet_ruimte(Ruimte ruimte) {
+    const bool twee_rijen = ruimte != Ruimte::ruim;
+    zet_maten(twee_rijen);
+    delete layout();
     auto* rij = new QHBoxLayout(this);
     rij->setContentsMargins(0, 0, 0, 0);
-    rij->setSpacing(4);
-    bouw_nummervak(rooster, *rij);
-    bouw_bladerknoppen(*rij);
-    rij->addStretch();
-    bouw_slotknoppen(*rij);
-    rij->addStretch();
-    bouw_snelknoppen(*rij);
+    rij->setSpacing(tussen);
+    rij->addWidget(lblNummer_);
+    rij->addWidget(txtINR_);
+    const auto voeg_toe = [](QBoxLayout& aan, const auto& knoppen) {
+        for (QToolButton* knop : knoppen)
+            aan.addWidget(knop);
+    };
+    if (!twee_rijen) {
+        voeg_toe(*rij, btnBlader_);
+        rij->addStretch();
+        voeg_toe(*rij, btnRooster_);
+        rij->addStretch();
+        voeg_toe(*rij, btnFast_);
+        breedte_in_een_rij_ = rij->sizeHint().width();
+        return;
+    }
+    auto* rijen = new QVBoxLayout;
+    auto* onder = new QHBoxLayout;
+    auto* boven = new QHBoxLayout;
+    for (QHBoxLayout* een : {boven, onder}) {
+        een->setSpacing(tussen);
+        rijen->addLayout(een);
+    }
+    rijen->setSpacing(tussen);
+    voeg_toe(*boven, btnBlader_);
+    boven->addStretch();
+    voeg_toe(*onder, btnRooster_);
+    onder->addStretch();
+    voeg_toe(*onder, btnFast_);
+    rij->addLayout(rijen);
 }
 
-void Paneel::bouw_nummervak(const Grid& rooster, QHBoxLayout& rij) {
-    auto* label = new QLabel(QStringLiteral("&Nummer:"), this);
-    label->setObjectName(QStringLiteral("lblNummer"));
-    QFont letter = label->font();
-    letter.setPointSizeF(letter.pointSizeF() * breedten(*this).nummerlabel);
-    label->setFont(letter);
+void Paneel::bouw_nummervak(const Grid& rooster) {
+    lblNummer_ = new QLabel(QStringLiteral("&Nummer:"), this);
+    lblNummer_->setObjectName(QStringLiteral("lblNummer"));
     txtINR_ = new Nummervak(
         rooster, [this](Blader richting) { acties_.blader(richting); }, this);
     txtINR_->setAccessibleName(QStringLiteral("Nummer van de combinatie in de ring"));
@@ -74,16 +124,13 @@ void Paneel::bouw_nummervak(const Grid& rooster, QHBoxLayout& rij) {
     groot.setPixelSize(48);
     groot.setBold(true);
     txtINR_->setFont(groot);
-    txtINR_->setFixedSize(breedten(*this).nummervak, paneelhoogte);
-    label->setBuddy(txtINR_);
-    rij.addWidget(label);
-    rij.addWidget(txtINR_);
+    lblNummer_->setBuddy(txtINR_);
     connect(txtINR_, &QLineEdit::textChanged, this, [this](const QString& tekst) {
         if (!schrijft_) acties_.typ_nummer(tekst);
     });
 }
 
-void Paneel::bouw_bladerknoppen(QHBoxLayout& rij) {
+void Paneel::bouw_bladerknoppen() {
     struct Ontwerp {
         const char* tekst;
         const char* toegankelijk;
@@ -101,41 +148,34 @@ void Paneel::bouw_bladerknoppen(QHBoxLayout& rij) {
                                       QString::fromUtf8(ontwerp[i].toegankelijk), QString::fromUtf8(ontwerp[i].uitleg));
         knop->setText(QString::fromUtf8(ontwerp[i].tekst));
         knop->setIcon(icon(ontwerp[i].plaatje));
-        knop->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-        zet_maat(*knop, breedten(*this).bladerknop);
         const Blader richting = ontwerp[i].richting;
         connect(knop, &QToolButton::clicked, this, [this, richting] { acties_.blader(richting); });
-        rij.addWidget(knop);
         btnBlader_[i] = knop;
     }
 }
 
-void Paneel::bouw_slotknoppen(QHBoxLayout& rij) {
+void Paneel::bouw_slotknoppen() {
     for (std::size_t i = 0; i < btnRooster_.size(); ++i) {
         const int slot = static_cast<int>(i);
         QToolButton* knop = maak_knop(this, genummerd(QStringLiteral("btnRooster"), i),
                                       QStringLiteral("Rooster %1").arg(slot + 1), QString());
         knop->setText(QStringLiteral("Rooster &%1").arg(slot + 1));
         knop->setCheckable(true);
-        zet_maat(*knop, breedten(*this).slotknop);
         knop->setContextMenuPolicy(Qt::CustomContextMenu);
         knop->installEventFilter(this); // for the buttons of the mouse that the toolkit does not tell about
         connect(knop, &QToolButton::clicked, this, [this, slot] { acties_.slot(slot, Muisknop::links); });
         connect(knop, &QToolButton::customContextMenuRequested, this,
                 [this, slot] { acties_.slot(slot, Muisknop::rechts); });
-        rij.addWidget(knop);
         btnRooster_[i] = knop;
     }
 }
 
-void Paneel::bouw_snelknoppen(QHBoxLayout& rij) {
+void Paneel::bouw_snelknoppen() {
     const auto maak = [&](std::size_t i, Picture plaatje, const QString& naam, const QString& uitleg,
                           std::function<void()> PaneelActies::*actie) {
         QToolButton* knop = maak_knop(this, genummerd(QStringLiteral("btnFast"), i), naam, uitleg);
         knop->setIcon(icon(plaatje));
-        zet_maat(*knop, breedten(*this).snelknop);
         connect(knop, &QToolButton::clicked, this, [this, actie] { (acties_.*actie)(); });
-        rij.addWidget(knop);
         btnFast_[i] = knop;
     };
     maak(0, Picture::open, QStringLiteral("Rooster openen"), QStringLiteral("Rooster openen (Ctrl+O)"),

@@ -5,6 +5,7 @@
 #include "app/programma.h"
 #include "ui/main/frmNummervak.h"
 #include "ui/main/huidige_combinatie.h"
+#include "ui/main/indeling.h"
 #include "ui/main/open_rooster.h"
 
 #include <QToolButton>
@@ -12,23 +13,12 @@
 #include <array>
 #include <functional>
 
-class QHBoxLayout;
+class QLabel;
 
 namespace tavelo {
 
 inline constexpr int marge = 8; // between the controls of the main window, in device-independent pixels
 inline constexpr int paneelhoogte = 84;
-
-// Widths on a screen with room, and on a small one, where the last columns of the grid are reached by scrolling.
-struct Breedten {
-    int grid; // with room: all columns and the scroll bar
-    int nummervak;
-    int bladerknop;
-    int slotknop;
-    int snelknop;
-    double nummerlabel; // its letter, relative to that of the desktop
-};
-[[nodiscard]] const Breedten& breedten(const QWidget& venster);
 
 // What the window does with an act of the operator.
 struct PaneelActies {
@@ -46,6 +36,10 @@ class Paneel final : public QWidget {
     Paneel(const Grid& rooster, PaneelActies acties, QWidget* ouder);
 
     [[nodiscard]] Nummervak& txtINR() const { return *txtINR_; }
+    // Width of all controls in one row, in pixels.
+    [[nodiscard]] int breedte_in_een_rij() const { return breedte_in_een_rij_; }
+    // In one row, or with less room in two of half the height.
+    void zet_ruimte(Ruimte ruimte);
 
     // Shows the number box and the slots as the program has them; a text written here is not told as typed.
     void toon(const Programma& programma);
@@ -58,18 +52,21 @@ class Paneel final : public QWidget {
     bool eventFilter(QObject* knop, QEvent* event) override;
 
   private:
-    void bouw_nummervak(const Grid& rooster, QHBoxLayout& rij);
-    void bouw_bladerknoppen(QHBoxLayout& rij);
-    void bouw_slotknoppen(QHBoxLayout& rij);
-    void bouw_snelknoppen(QHBoxLayout& rij);
+    void bouw_nummervak(const Grid& rooster);
+    void bouw_bladerknoppen();
+    void bouw_slotknoppen();
+    void bouw_snelknoppen();
+    void zet_maten(bool twee_rijen);
 
     void toon_nummer_onbekend(bool onbekend);
 
     PaneelActies acties_;
+    QLabel* lblNummer_ = nullptr;
     Nummervak* txtINR_ = nullptr;
     std::array<QToolButton*, 3> btnBlader_{};
     std::array<QToolButton*, 2> btnRooster_{};
     std::array<QToolButton*, 3> btnFast_{};
+    int breedte_in_een_rij_ = 0;
     bool schrijft_ = false; // the program writes the number box
 };
 

@@ -127,9 +127,12 @@ void frmTavelo::bouw_bediening() {
 }
 
 // The places before the resize rules move them.
-void frmTavelo::ontwerp_plaatsen() {
-    const int breedte = breedten(*this).grid;
-    const int paneelbreedte = std::max(breedte, paneel_->sizeHint().width());
+void frmTavelo::ontwerp_plaatsen(Ruimte ruimte) {
+    getekend_ = ruimte;
+    paneel_->zet_ruimte(ruimte);
+    const int breedte = pixels(gridbreedte(ruimte));
+    const int nodig = paneel_->sizeHint().width();
+    const int paneelbreedte = ruimte == Ruimte::ruim ? std::max(breedte, nodig) : nodig;
     const int kop = std::max(frameRoosterinstellingen_->height(), paneelhoogte + marge + fontMetrics().height() + 8);
     paneel_->setGeometry(marge, marge, paneelbreedte, paneelhoogte);
     const int omschrijving = marge + paneelhoogte + marge;
@@ -142,7 +145,6 @@ void frmTavelo::ontwerp_plaatsen() {
 void frmTavelo::toon_intro() { omgeving_.toon_intro(); }
 
 void frmTavelo::toon_venster() {
-    ontwerp_plaatsen();
     if (const QScreen* scherm = screen()) {
         const QRect vrij = scherm->availableGeometry();
         resize(venstermaat.boundedTo(vrij.size() * 0.96));
@@ -265,8 +267,10 @@ void frmTavelo::toon_herlezing() {
 
 void frmTavelo::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
-    if (ontwerp_.grdRooster.breedte == 0) return; // not laid out yet
     const QSize binnen = vlak_->size();
+    if (const Ruimte ruimte = kies_ruimte(twips(binnen.width()), twips(paneel_->breedte_in_een_rij()));
+        getekend_ != ruimte)
+        ontwerp_plaatsen(ruimte);
     const Plaatsen plaatsen =
         deel_in({twips(binnen.width()), twips(binnen.height())}, ontwerp_, frameRoosterinstellingen_->label_links());
     grdRooster_->setGeometry(pixelvlak(plaatsen.grdRooster));

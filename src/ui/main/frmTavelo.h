@@ -16,6 +16,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 
 namespace tavelo {
 
@@ -64,7 +65,7 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     void muiswiel_unhook() override;
 
     void bouw_bediening();
-    void ontwerp_plaatsen();
+    void ontwerp_plaatsen(Ruimte ruimte);
 
     void verwacht_nummer();
     void kies_nummer(const QString& tekst);
@@ -98,7 +99,8 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     QTimer groen_{this}; // runs while the description still has to be seen in green
 
     Plaatsen ontwerp_;
-    int wieldraai_ = 0; // eighths of a degree turned since the last notch
+    std::optional<Ruimte> getekend_; // whose places these are
+    int wieldraai_ = 0;              // eighths of a degree turned since the last notch
     bool afgesloten_ = false;
 };
 

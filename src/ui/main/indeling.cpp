@@ -9,7 +9,36 @@ namespace {
 constexpr int marge = 120;      // right of and below the preview and the frame
 constexpr int marge_grid = 102; // below the grid
 
+// Of the grid, and what the preview has at least in the narrowest window of the design.
+struct Ruimtebreedten {
+    int grid;
+    int voorbeeld;
+};
+
+Ruimtebreedten breedten_van(Ruimte ruimte) {
+    switch (ruimte) {
+    case Ruimte::ruim:
+        return {784 * 15, 360 * 15}; // all columns and the scroll bar
+    case Ruimte::krap:
+        return {570 * 15, 240 * 15};
+    case Ruimte::klein:
+        break;
+    }
+    return {416 * 15, 160 * 15}; // what fits the smallest window
+}
+
 } // namespace
+
+int gridbreedte(Ruimte ruimte) { return breedten_van(ruimte).grid; }
+
+Ruimte kies_ruimte(int binnenbreedte, int paneel) {
+    const auto past = [&](Ruimte ruimte, int minstens) {
+        const auto [grid, voorbeeld] = breedten_van(ruimte);
+        return tussenruimte + std::max(grid, minstens) + tussenruimte + voorbeeld + marge <= binnenbreedte;
+    };
+    if (past(Ruimte::ruim, paneel)) return Ruimte::ruim;
+    return past(Ruimte::krap, 0) ? Ruimte::krap : Ruimte::klein;
+}
 
 Plaatsen deel_in(Maat binnenmaat, const Plaatsen& ontwerp, int label_links) {
     const int breedte = std::max(binnenmaat.breedte, kleinste_indeling.breedte);

@@ -24,6 +24,17 @@ struct Plaatsen {
     int labelbreedte = 0;               // of the labels inside the frame, at their left `label_links`
 };
 
+// The places at design time, by the room there is: wide, with the controls in one row over a grid that shows all its
+// columns; narrow and small, with the controls in two rows and a grid whose last columns are reached by scrolling.
+enum class Ruimte { ruim, krap, klein };
+
+// The widest design that leaves the preview some width at this inner width. `paneel` is the width of the controls in
+// one row, which depends on the letter of the desktop.
+[[nodiscard]] Ruimte kies_ruimte(int binnenbreedte, int paneel);
+[[nodiscard]] int gridbreedte(Ruimte ruimte);
+
+inline constexpr int tussenruimte = 120; // left of the grid, and between it and the preview
+
 // `ontwerp` holds the places at design time; `label_links` is the left of the labels inside the frame.
 [[nodiscard]] Plaatsen deel_in(Maat binnenmaat, const Plaatsen& ontwerp, int label_links);
 

@@ -60,5 +60,40 @@ TEST(Indeling, breedte_en_hoogte_hebben_elk_hun_eigen_grens) {
     EXPECT_EQ(laag.grdRooster.hoogte, 6000 - 840 - 102);
 }
 
+constexpr int paneel_in_een_rij = 770 * 15;
+
+// The width of the preview in a window of this inner width, in pixels.
+int voorbeeldbreedte(int binnen) {
+    const Ruimte ruimte = kies_ruimte(binnen * 15, paneel_in_een_rij);
+    Plaatsen plaatsen;
+    plaatsen.picDeelnemer.links = tussenruimte + gridbreedte(ruimte) + tussenruimte;
+    return deel_in({binnen * 15, 9000}, plaatsen, 150).picDeelnemer.breedte / 15;
+}
+
+TEST(KiesRuimte, hoe_smaller_het_venster_hoe_smaller_het_ontwerp) {
+    EXPECT_EQ(kies_ruimte(1240 * 15, paneel_in_een_rij), Ruimte::ruim);
+    EXPECT_EQ(kies_ruimte(1168 * 15, paneel_in_een_rij), Ruimte::ruim);
+    EXPECT_EQ(kies_ruimte(1167 * 15, paneel_in_een_rij), Ruimte::krap);
+    EXPECT_EQ(kies_ruimte(960 * 15, paneel_in_een_rij), Ruimte::krap); // 1920 x 1080 at scale 2
+    EXPECT_EQ(kies_ruimte(853 * 15, paneel_in_een_rij), Ruimte::krap); // 1280 x 800 at scale 1.5
+    EXPECT_EQ(kies_ruimte(834 * 15, paneel_in_een_rij), Ruimte::krap);
+    EXPECT_EQ(kies_ruimte(833 * 15, paneel_in_een_rij), Ruimte::klein);
+    EXPECT_EQ(kies_ruimte(600 * 15, paneel_in_een_rij), Ruimte::klein);
+    EXPECT_EQ(kies_ruimte(0, paneel_in_een_rij), Ruimte::klein);
+    EXPECT_GT(gridbreedte(Ruimte::ruim), gridbreedte(Ruimte::krap));
+    EXPECT_GT(gridbreedte(Ruimte::krap), gridbreedte(Ruimte::klein));
+}
+
+TEST(KiesRuimte, het_voorbeeld_is_in_geen_venster_smaller_dan_2400_twips) {
+    EXPECT_EQ(voorbeeldbreedte(0), 160); // laid out for 9,000 twips at least
+    for (int binnen = 600; binnen <= 1400; ++binnen)
+        EXPECT_GE(voorbeeldbreedte(binnen), 160) << binnen;
+}
+
+TEST(KiesRuimte, met_grote_letters_heeft_de_rij_meer_nodig) {
+    EXPECT_EQ(kies_ruimte(1240 * 15, 900 * 15), Ruimte::krap);
+    EXPECT_EQ(kies_ruimte(1284 * 15, 900 * 15), Ruimte::ruim);
+}
+
 } // namespace
 } // namespace tavelo

@@ -531,6 +531,33 @@ TEST_F(FrmTavelo, kleiner_dan_9000_bij_6000_twips_krimpen_lijst_en_voorbeeld_nie
     EXPECT_LT(venster->height(), 300);
 }
 
+TEST_F(FrmTavelo, in_een_klein_venster_zijn_nummervak_en_knoppen_heel_en_is_het_voorbeeld_nog_te_zien) {
+    const QWidget& binnen = *grdRooster().parentWidget();
+    for (const QSize maat : {QSize(600, 400), QSize(853, 480), QSize(960, 500), QSize(1300, 700), QSize(600, 400)}) {
+        const QSize rand = venster->size() - binnen.size(); // menu and status line
+        venster->resize(maat + rand);
+        QCoreApplication::processEvents();
+        ASSERT_EQ(binnen.size(), maat);
+        QRegion bezet;
+        for (const char* naam : {"lblNummer", "txtINR", "btnBlader_0", "btnBlader_1", "btnBlader_2", "btnRooster_0",
+                                 "btnRooster_1", "btnFast_0", "btnFast_1", "btnFast_2"}) {
+            const QWidget& besturing = vind(naam);
+            const QRect plaats(besturing.mapTo(&binnen, QPoint(0, 0)), besturing.size());
+            EXPECT_TRUE(binnen.rect().contains(plaats)) << naam << " at " << maat.width();
+            EXPECT_TRUE(besturing.parentWidget()->rect().contains(besturing.geometry())) << naam;
+            EXPECT_GE(plaats.width(), besturing.minimumSizeHint().width()) << naam << " at " << maat.width();
+            EXPECT_FALSE(bezet.intersects(plaats)) << naam << " at " << maat.width();
+            bezet += plaats;
+        }
+        for (const char* naam : {"grdRooster", "picDeelnemer", "frameRoosterinstellingen", "lblRoosterOmschrijving"}) {
+            EXPECT_TRUE(binnen.rect().contains(vind(naam).geometry())) << naam << " at " << maat.width();
+            EXPECT_FALSE(bezet.intersects(vind(naam).geometry())) << naam << " at " << maat.width();
+        }
+        EXPECT_GE(vind("picDeelnemer").width(), 160) << maat.width(); // 2,400 twips
+        EXPECT_GE(vind("frameRoosterinstellingen").width(), 100) << maat.width();
+    }
+}
+
 TEST_F(FrmTavelo, lijst_en_voorbeeld_groeien_mee_met_het_venster) {
     venster->resize(1300, 800);
     const QWidget& binnen = *grdRooster().parentWidget();

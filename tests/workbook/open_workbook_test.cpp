@@ -71,6 +71,7 @@ TEST_F(OpenWorkbook, het_tijdelijke_bestand_van_excel_wordt_zo_genoemd) {
     EXPECT_EQ(open_workbook(write("~$zondag.xlsx", owner)).error(), OpenFailure::owner_file);
     EXPECT_EQ(open_workbook(write("zondag.xlsx", owner)).error(), OpenFailure::not_a_workbook);
     EXPECT_TRUE(open_workbook(write("~$echt.xlsx", simple.bytes())).has_value());
+    EXPECT_EQ(open_workbook(write("~$klein.xlsx", test::zip_of({{"a", "b"}}))).error(), OpenFailure::not_a_workbook);
     EXPECT_TRUE(open_workbook(write("~$lang.xls", "nr;naam\n" + std::string(2000, 'x') + ";y\n")).has_value());
 }
 

@@ -129,6 +129,18 @@ TEST(XlsWerkmap, een_blad_waar_zijn_naam_naast_wijst_wordt_gevonden) {
     EXPECT_EQ(shown(far), Shown{"A1=2"}); // the last sheet is the nearest
 }
 
+TEST(XlsWerkmap, een_grafiek_in_een_blad_is_niet_het_blad_dat_gezocht_wordt) {
+    Bytes cells = number(0, 0, 1);
+    const std::size_t chart_place = cells.size(); // in the records of the sheet
+    cells.record(0x0809, bof_8(chart)).record(0x000A).add(number(1, 0, 3)).add(number(2, 0, 4));
+    Bytes file = book_8({{.name = "a", .records = cells}, {.name = "b", .records = number(0, 0, 2)}});
+    constexpr std::size_t first_offset = 20 + 4;
+    constexpr std::size_t bof_size = 20;
+    const auto sheet = std::to_integer<unsigned>(file.bytes().at(first_offset));
+    file.put_u32(first_offset, static_cast<std::uint32_t>(sheet + bof_size + chart_place - 1));
+    EXPECT_EQ(shown(file), (Shown{"A1=1", "A2=3", "A3=4"}));
+}
+
 TEST(XlsWerkmap, een_cel_krijgt_de_getalopmaak_van_haar_stijl) {
     Bytes records = format_8(164, "0.000\"x\"").add(format_8(5, "\"fl\" 0"));
     records.add(xf(0)).add(xf(164)).add(xf(5)).add(xf(9));

@@ -4,18 +4,20 @@
 #include "basis/background_reader.h"
 #include "basis/system_time.h"
 #include "excel/builtin_excel.h"
+#include "excel/excel_or_builtin.h"
 #include "platform/application.h"
 #include "platform/debug_log.h"
 #include "platform/dialogs.h"
 #include "platform/dutch_texts.h"
 #include "platform/ending.h"
+#include "platform/excel.h"
 #include "platform/fonts.h"
 #include "platform/mouse_wheel.h"
 #include "platform/pointer.h"
 #include "platform/post.h"
 #include "platform/qt_text.h"
-#include "platform/settings_store.h"
 #include "platform/special_folders.h"
+#include "platform/user_settings.h"
 #include "ui/main/frmTavelo.h"
 #include "ui/settings/frmInstellingen.h"
 
@@ -39,25 +41,27 @@ int main(int argc, char** argv) {
     SystemClock klok;
     QtPointer muisaanwijzer;
     DebugLog logboek;
-    UserSettingsStore opslag;
+    const auto opslag = user_settings();
     SystemFolders mappen;
     BackgroundReader lezer(post_to_interface);
-    const auto excel = builtin_excel(locale_named(utf8(QLocale::system().name().replace('_', '-'))));
+    ExcelOrBuiltin excel(installed_excel(),
+                         builtin_excel(locale_named(utf8(QLocale::system().name().replace('_', '-')))),
+                         [](std::string_view served) { note_excel(served); });
 
     Programma programma;
     Bediening bediening{
-        programma, {meter, berichten, open_dialoog, tijdstempels, klok, muisaanwijzer, logboek, *excel}, {}, {}};
+        programma, {meter, berichten, open_dialoog, tijdstempels, klok, muisaanwijzer, logboek, excel}, {}, {}};
     const auto toon_intro = [] { frmIntro().exec(); };
     const auto instellingen = [&](frmTavelo& venster) {
         const auto vertoond = [&] { venster.toon_vertoningen(); };
         frmInstellingen(bediening, kleur_dialoog, vertoond, &venster).exec();
     };
     frmTavelo venster(bediening,
-                      {opslag, mappen, lezer, utf8(QDir::toNativeSeparators(QCoreApplication::applicationDirPath())),
+                      {*opslag, mappen, lezer, utf8(QDir::toNativeSeparators(QCoreApplication::applicationDirPath())),
                        toon_intro, instellingen});
     eigenaar.window = &venster;
-    const Ending einde([&] { venster.close(); }, [&] { bewaar_bij_afsluiten(programma, opslag); });
+    const Ending einde([&] { venster.close(); }, [&] { bewaar_bij_afsluiten(programma, *opslag); });
 
-    Main(programma, opslag, mouse_wheel_present, venster);
+    Main(programma, *opslag, mouse_wheel_present, venster);
     return programma.afgesloten ? 0 : Application::exec();
 }

@@ -19,4 +19,9 @@ void DebugLog::skipped(std::size_t line, std::string_view key, std::string_view 
     qCDebug(category).noquote() << "regel" << line << qt_text(key) << ':' << qt_text(reason);
 }
 
+void note_excel(std::string_view text) {
+    static const QLoggingCategory log("tavelo.excel");
+    qCDebug(log).noquote() << qt_text(text);
+}
+
 } // namespace tavelo

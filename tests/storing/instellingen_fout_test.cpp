@@ -1,7 +1,7 @@
 // The settings when the system fails while they are read or written.
 #include "app/instellingen.h"
 #include "fakes/temp_folder.h"
-#include "platform/settings_store.h"
+#include "platform/linux/settings_store.h"
 #include "storing/storing.h"
 
 #include <QString>

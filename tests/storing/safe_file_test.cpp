@@ -1,4 +1,4 @@
-#include "platform/safe_file.h"
+#include "platform/linux/safe_file.h"
 
 #include "fakes/temp_folder.h"
 #include "storing/storing.h"

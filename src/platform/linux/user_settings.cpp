@@ -1,6 +1,6 @@
 #include "platform/user_settings.h"
 
-#include "platform/settings_store.h"
+#include "platform/linux/settings_store.h"
 
 namespace tavelo {
 

@@ -1,4 +1,4 @@
-#include "platform/ini_text.h"
+#include "platform/linux/ini_text.h"
 
 #include <algorithm>
 #include <charconv>

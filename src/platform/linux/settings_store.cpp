@@ -1,17 +1,13 @@
-#include "platform/settings_store.h"
+#include "platform/linux/settings_store.h"
 
+#include "platform/linux/safe_file.h"
 #include "platform/qt_text.h"
-#include "platform/safe_file.h"
 
 #include <QDir>
 #include <QFile>
 #include <QLoggingCategory>
 #include <QStandardPaths>
 #include <QUrl>
-
-#ifdef _WIN32
-#include <QSettings>
-#endif
 
 namespace tavelo {
 
@@ -29,38 +25,6 @@ QString UserSettingsStore::file_name(std::string_view application) const {
     const QByteArray name = QUrl::toPercentEncoding(qt_text(application), " ()");
     return QDir(folder_).filePath(QString::fromLatin1(name) + QStringLiteral(".ini"));
 }
-
-#ifdef _WIN32
-
-namespace {
-
-QString registry_area(std::string_view application, std::string_view section) {
-    return QStringLiteral("HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings\\%1\\%2")
-        .arg(qt_text(application), qt_text(section));
-}
-
-} // namespace
-
-std::optional<std::string> UserSettingsStore::get(std::string_view application, std::string_view section,
-                                                  std::string_view key) const {
-    const QSettings area(registry_area(application, section), QSettings::NativeFormat);
-    if (!area.contains(qt_text(key))) return {};
-    return utf8(area.value(qt_text(key)).toString());
-}
-
-void UserSettingsStore::save(std::string_view application, std::string_view section, std::string_view key,
-                             std::string_view value) {
-    QSettings(registry_area(application, section), QSettings::NativeFormat).setValue(qt_text(key), qt_text(value));
-}
-
-void UserSettingsStore::save_default(std::string_view application, std::string_view section, std::string_view key,
-                                     std::string_view value) {
-    save(application, section, key, value);
-}
-
-void UserSettingsStore::flush() {}
-
-#else
 
 namespace {
 
@@ -130,7 +94,5 @@ void UserSettingsStore::write_file(const std::string& application, const std::ve
     const auto written = replace_file(path, text);
     if (!written) log_fault("not written:", path, written.error());
 }
-
-#endif
 
 } // namespace tavelo

@@ -1,6 +1,4 @@
-#include "platform/safe_file.h"
-
-#ifndef _WIN32
+#include "platform/linux/safe_file.h"
 
 #include <algorithm>
 #include <array>
@@ -200,5 +198,3 @@ void remove_leftovers(const std::string& path) {
 }
 
 } // namespace tavelo
-
-#endif

@@ -1,5 +1,5 @@
-// A small file that must survive everything: read whole or not at all, replaced whole or not at all. For POSIX; on
-// Windows the program has no file of its own. Paths and contents are bytes.
+// A small file that must survive everything: read whole or not at all, replaced whole or not at all. Paths and contents
+// are bytes.
 //
 // What happens to a write, in order. The first step that fails ends it: the new file is taken away and the old one
 // stands as it was.
@@ -15,8 +15,6 @@
 //      but the write is reported as failed.
 // A process that is killed before step 4 leaves its new file behind: `remove_leftovers` takes it away.
 #pragma once
-
-#ifndef _WIN32
 
 #include <cstddef>
 #include <expected>
@@ -44,5 +42,3 @@ struct FileFault {
 void remove_leftovers(const std::string& path);
 
 } // namespace tavelo
-
-#endif

@@ -1,5 +1,4 @@
-// The per-user settings store. On Windows the program-settings area of the registry; elsewhere one INI file per
-// application name in the user's configuration folder.
+// The per-user settings store: one INI file per application name in the user's configuration folder.
 //
 // What is saved is kept until `flush`, which reads the file again, changes in it only what was saved and replaces it
 // whole (safe_file.h tells how): a fault or a power cut leaves the old file or the new one, and nothing that others
@@ -9,7 +8,7 @@
 #pragma once
 
 #include "basis/seams.h"
-#include "platform/ini_text.h"
+#include "platform/linux/ini_text.h"
 
 #include <QString>
 

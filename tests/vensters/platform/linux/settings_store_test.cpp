@@ -1,4 +1,4 @@
-#include "platform/settings_store.h"
+#include "platform/linux/settings_store.h"
 
 #include "app/instellingen.h"
 #include "platform/qt_text.h"

@@ -1,5 +1,6 @@
 #include "app/codeBepaalPaden.h"
 
+#include "basis/native_path.h"
 #include "basis/number.h"
 #include "basis/text.h"
 
@@ -58,7 +59,7 @@ std::string kies_mijn_bestanden(const SettingsStore& opslag, const SpecialFolder
 
 void maak_map(const std::string& pad) {
     std::error_code genegeerd; // a folder that exists or cannot be made is passed over
-    std::filesystem::create_directory(std::filesystem::path(std::u8string(pad.begin(), pad.end())), genegeerd);
+    std::filesystem::create_directory(native_path(pad), genegeerd);
 }
 
 } // namespace

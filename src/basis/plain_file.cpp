@@ -1,8 +1,9 @@
 #include "basis/plain_file.h"
 
+#include "basis/native_path.h"
+
 #include <algorithm>
 #include <filesystem>
-#include <string>
 
 #ifdef _WIN32
 #ifndef NOMINMAX
@@ -19,10 +20,6 @@
 namespace tavelo {
 
 namespace {
-
-std::filesystem::path native(std::string_view pad) {
-    return std::filesystem::path(std::u8string(pad.begin(), pad.end()));
-}
 
 bool is_plain(const std::filesystem::path& path) {
     std::error_code error;
@@ -45,12 +42,12 @@ Bestandskenmerk kenmerk_of(const FILETIME& time, DWORD size_high, DWORD size_low
 
 std::optional<Bestandskenmerk> kenmerk_van(std::string_view pad) {
     WIN32_FILE_ATTRIBUTE_DATA data;
-    if (!GetFileAttributesExW(native(pad).c_str(), GetFileExInfoStandard, &data)) return std::nullopt;
+    if (!GetFileAttributesExW(native_path(pad).c_str(), GetFileExInfoStandard, &data)) return std::nullopt;
     return kenmerk_of(data.ftLastWriteTime, data.nFileSizeHigh, data.nFileSizeLow);
 }
 
 PlainFile::PlainFile(std::string_view pad) : handle_(INVALID_HANDLE_VALUE) {
-    const std::filesystem::path path = native(pad);
+    const std::filesystem::path path = native_path(pad);
     if (is_plain(path))
         handle_ = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                               nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -96,14 +93,14 @@ Bestandskenmerk kenmerk_of(const struct stat& data) {
 } // namespace
 
 std::optional<Bestandskenmerk> kenmerk_van(std::string_view pad) {
-    const std::filesystem::path path = native(pad);
+    const std::filesystem::path path = native_path(pad);
     struct stat data {};
     if (uninterrupted([&] { return stat(path.c_str(), &data); }) != 0) return std::nullopt;
     return kenmerk_of(data);
 }
 
 PlainFile::PlainFile(std::string_view pad) {
-    const std::filesystem::path path = native(pad);
+    const std::filesystem::path path = native_path(pad);
     if (is_plain(path)) // a pipe would be waited for
         descriptor_ = uninterrupted([&] { return open(path.c_str(), O_RDONLY | O_CLOEXEC); });
 }

@@ -1,11 +1,13 @@
 #include "workbook/workbook.h"
 
+#include "basis/native_path.h"
+#include "basis/plain_file.h"
 #include "workbook/lookalike/lookalike.h"
 #include "workbook/xlsx/locked_package.h"
 
 #include <filesystem>
-#include <fstream>
 #include <new>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -15,26 +17,24 @@ namespace tavelo {
 namespace {
 
 std::expected<std::vector<std::byte>, OpenFailure> read_whole_file(std::string_view file) {
-    const std::filesystem::path path(std::u8string(file.begin(), file.end()));
     std::error_code error;
-    const auto kind = std::filesystem::status(path, error).type();
-    if (kind == std::filesystem::file_type::not_found) return std::unexpected(OpenFailure::not_found);
-    if (kind != std::filesystem::file_type::regular) return std::unexpected(OpenFailure::unreadable);
+    if (std::filesystem::status(native_path(file), error).type() == std::filesystem::file_type::not_found)
+        return std::unexpected(OpenFailure::not_found);
+    PlainFile plain(file); // shared: Excel may go on saving it
+    if (!plain.is_open()) return std::unexpected(OpenFailure::unreadable);
+    const auto known = plain.kenmerk();
+    if (known && known->grootte > largest_workbook_file) return std::unexpected(OpenFailure::too_large);
 
-    if (std::filesystem::file_size(path, error) > largest_workbook_file && !error)
-        return std::unexpected(OpenFailure::too_large);
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream) return std::unexpected(OpenFailure::unreadable);
     std::vector<std::byte> bytes;
     constexpr std::size_t step = 1024 * 1024;
-    while (stream) {
+    for (std::optional<std::size_t> count = step; count != std::size_t{0};) {
         if (bytes.size() > largest_workbook_file) return std::unexpected(OpenFailure::too_large);
-        const std::size_t known = bytes.size();
-        bytes.resize(known + step);
-        stream.read(reinterpret_cast<char*>(bytes.data() + known), static_cast<std::streamsize>(step));
-        bytes.resize(known + static_cast<std::size_t>(stream.gcount()));
+        const std::size_t had = bytes.size();
+        bytes.resize(had + step);
+        count = plain.read(reinterpret_cast<char*>(bytes.data() + had), step);
+        if (!count) return std::unexpected(OpenFailure::unreadable);
+        bytes.resize(had + *count);
     }
-    if (stream.bad()) return std::unexpected(OpenFailure::unreadable);
     return bytes;
 }
 

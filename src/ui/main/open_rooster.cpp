@@ -2,6 +2,7 @@
 
 #include "basis/codeBestand.h"
 #include "basis/codeDatumTijd.h"
+#include "basis/native_path.h"
 #include "basis/scoped.h"
 #include "basis/text.h"
 #include "excel/codeExcel.h"
@@ -24,7 +25,7 @@ constexpr std::string_view dialoog_filter =
 // Whether a file can be made in the folder (which ends in a separator): a probe is made and deleted at once.
 bool is_beschrijfbaar(std::string_view map) {
     const std::string proef = std::string(map) + "~tmp.tmp";
-    const std::filesystem::path pad(std::u8string(proef.begin(), proef.end()));
+    const std::filesystem::path pad = native_path(proef);
     {
         std::ofstream bestand(pad, std::ios::binary);
         if (!bestand) return false;

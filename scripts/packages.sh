@@ -29,6 +29,14 @@ packages_fuzz=(clang-16 libclang-rt-16-dev)
 packages_bench=(libbenchmark-dev unzip python3-xlsxwriter python3-openpyxl python3-xlrd)
 packages_examples=(python3-xlsxwriter)
 
+# Only on request: the delivery for Windows (packaging/windows/build), and trying it (packaging/windows/try).
+packages_windows=(
+    g++-mingw-w64-x86-64-posix libz-mingw-w64-dev
+    qt6-base-dev qt6-base-dev-tools cmake ninja-build pkgconf dpkg-dev perl python3
+    librsvg2-bin icoutils nsis zip googletest
+)
+packages_windows_try=(wine wine64 xvfb openbox xdotool imagemagick x11-utils fonts-liberation python3)
+
 # install_missing PACKAGE...: asks apt for what is not installed yet and stays silent when nothing is missing.
 install_missing() {
     local missing=() package

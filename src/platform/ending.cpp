@@ -4,7 +4,6 @@
 #include <QEvent>
 #include <QSocketNotifier>
 
-#include <atomic>
 #include <cstdlib>
 #include <utility>
 

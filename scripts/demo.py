@@ -356,6 +356,24 @@ class Demonstratie:
             self.controleer_monitor(beeld, bestand, volgende)
             verslag.stap("ander-nummer", f"De operateur typt verder: nummer {volgende} staat op de monitor.", beeld)
 
+            # A click on the wall gives the keys back to the number box, and Alt+F4 there closes nothing.
+            monitor.klik(200, 200)
+            scherm.muis_weg()
+            wacht_tot(lambda: scherm.xdotool("getactivewindow").strip() == str(bediening.hoofd.nummer),
+                      "het hoofdvenster weer onder de toetsen")
+            scherm.typ(nummer)
+            self.controleer_monitor(scherm.rustig_beeld(), bestand, nummer)
+            monitor.activeer()
+            scherm.toets("alt+F4")
+            self.controleer_monitor(scherm.rustig_beeld(), bestand, nummer)
+            bediening.hoofd.activeer()
+
+            # Typed as fast as the computer can, no key of the next number is lost behind that of the button.
+            scherm.xdotool("key", "--delay", "0", "alt+w", *str(volgende))
+            beeld = scherm.rustig_beeld()
+            self.controleer_monitor(beeld, bestand, volgende)
+            verslag.stap("niets-kwijt", "Een klik op de monitor en snelle toetsen: geen cijfer gaat verloren.", beeld)
+
             beeld = self.wissel_beeldvullend(scherm, bediening, False)
             scherm.venster(letterlijk(BIJSCHRIFT_MONITOR))
             verslag.stap("terug", "Nog eens F11: de monitor is weer een gewoon venster.", beeld)

@@ -2,6 +2,7 @@
 #include "app/instellingen.h"
 #include "fakes/temp_folder.h"
 #include "platform/linux/settings_store.h"
+#include "storing/apparaat.h"
 #include "storing/storing.h"
 
 #include <QString>
@@ -125,11 +126,13 @@ TEST_F(InstellingenFout, een_pijp_als_instellingenbestand_houdt_niemand_op) {
 }
 
 TEST_F(InstellingenFout, een_koppeling_naar_een_apparaat_blijft_en_er_wordt_niets_geschreven) {
-    std::filesystem::create_symlink("/dev/null", bestand);
-    stoor("open /dev/null log");
+    const std::string apparaat = test::null_device(map.file("nul"));
+    std::filesystem::create_symlink(apparaat, bestand);
+    stoor("open " + apparaat + " log");
     speel(groter);
     EXPECT_EQ(geraakt(0), 0);
-    EXPECT_EQ(std::filesystem::read_symlink(bestand), "/dev/null");
+    EXPECT_EQ(std::filesystem::read_symlink(bestand), apparaat);
+    EXPECT_TRUE(std::filesystem::is_character_file(apparaat));
 }
 
 TEST_F(InstellingenFout, een_koppeling_naar_een_bestand_wordt_gevolgd) {

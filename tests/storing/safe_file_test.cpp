@@ -1,6 +1,7 @@
 #include "platform/linux/safe_file.h"
 
 #include "fakes/temp_folder.h"
+#include "storing/apparaat.h"
 #include "storing/storing.h"
 
 #include <gtest/gtest.h>
@@ -161,12 +162,13 @@ TEST_F(SafeFileTest, een_koppeling_naar_een_bestand_blijft_en_haar_doel_verander
 TEST_F(SafeFileTest, wat_geen_gewoon_bestand_is_wordt_niet_gelezen_en_niet_vervangen) {
     const std::string pijp = map.file("pijp");
     ASSERT_EQ(mkfifo(pijp.c_str(), 0600), 0);
-    std::filesystem::create_symlink("/dev/null", map.file("apparaat"));
+    const std::string apparaat = test::null_device(map.file("nul"));
+    std::filesystem::create_symlink(apparaat, map.file("apparaat"));
     std::filesystem::create_symlink("pijp", map.file("naar_pijp"));
     std::filesystem::create_symlink("nergens", map.file("naar_niets"));
     std::filesystem::create_directory(map.file("map"));
     const std::string eerst = namen();
-    stoor("open /dev/null log; open *pijp log");
+    stoor("open " + apparaat + " log; open *pijp log");
     for (const std::string naam : {"pijp", "apparaat", "naar_pijp", "naar_niets", "map"}) {
         EXPECT_FALSE(read_small_file(map.file(naam), ruim)) << naam;
         EXPECT_FALSE(replace_file(map.file(naam), nieuw)) << naam;
@@ -175,6 +177,7 @@ TEST_F(SafeFileTest, wat_geen_gewoon_bestand_is_wordt_niet_gelezen_en_niet_verva
     EXPECT_EQ(namen(), eerst);
     EXPECT_TRUE(std::filesystem::is_fifo(pijp));
     EXPECT_TRUE(std::filesystem::is_symlink(map.file("apparaat")));
+    EXPECT_TRUE(std::filesystem::is_character_file(apparaat));
     EXPECT_TRUE(std::filesystem::is_symlink(map.file("naar_niets")));
 }
 

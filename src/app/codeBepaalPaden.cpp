@@ -69,7 +69,7 @@ std::string bepaal_map(const SpecialFolders& mappen, std::string_view naam) {
     return mappen.path(gevonden == benoemde_mappen.end() ? csidl_desktop : gevonden->csidl).value_or("");
 }
 
-Paden bepaal_paden(std::string_view programma_map, const SettingsStore& opslag, const SpecialFolders& mappen) {
+Paden paden_van(std::string_view programma_map, const SettingsStore& opslag, const SpecialFolders& mappen) {
     Paden p;
     p.app_pad = als_map(std::string(programma_map));
     p.support_pad = onder(p.app_pad, "SUPPORT");
@@ -91,7 +91,11 @@ Paden bepaal_paden(std::string_view programma_map, const SettingsStore& opslag, 
     p.data_support_pad = onder(p.mijn_bestanden, "SUPPORT");
     p.data_cggfiles_pad = onder(p.data_support_pad, "CGGFILES");
     p.data_lijsten_pad = onder(p.data_support_pad, "LIJSTEN");
+    return p;
+}
 
+Paden bepaal_paden(std::string_view programma_map, const SettingsStore& opslag, const SpecialFolders& mappen) {
+    Paden p = paden_van(programma_map, opslag, mappen);
     for (const std::string* map :
          {&p.mijn_bestanden, &p.zipfiles_pad, &p.data_support_pad, &p.data_cggfiles_pad, &p.data_lijsten_pad})
         maak_map(*map);

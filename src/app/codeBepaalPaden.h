@@ -36,8 +36,11 @@ struct Paden {
 // gives none. An unknown name stands for the desktop.
 [[nodiscard]] std::string bepaal_map(const SpecialFolders& mappen, std::string_view naam);
 
-// Resolves all folders and creates those of the user's data that must exist, one level each; what fails is passed over.
-// `programma_map` is the folder of the running program.
+// The paths of all folders; nothing is made. `programma_map` is the folder of the running program.
+[[nodiscard]] Paden paden_van(std::string_view programma_map, const SettingsStore& opslag,
+                              const SpecialFolders& mappen);
+
+// The same, and creates those of the user's data that must exist, one level each; what fails is passed over.
 [[nodiscard]] Paden bepaal_paden(std::string_view programma_map, const SettingsStore& opslag,
                                  const SpecialFolders& mappen);
 

@@ -2,6 +2,7 @@
 
 #include "app/start.h"
 #include "fakes/file_readers.h"
+#include "fakes/temp_folder.h"
 #include "platform/codeWindowPos.h"
 #include "platform/qt_text.h"
 #include "ui/main/frmTavelo.h"
@@ -629,7 +630,9 @@ TEST(FrmInstellingenMetHoofdvenster, voorbeeld_en_deelnemersvenster_volgen_elke_
     test::InstellingenOpstelling proef;
     test::FakeColourDialog kleuren;
     test::FakeSettings opslag;
+    const test::TempFolder map;
     test::FakeSpecialFolders mappen;
+    mappen.folders[5] = map.file(""); // the documents; without them the folders of the suite stand in the root
     test::DirectReader lezer;
     frmTavelo hoofdvenster(proef.bediening, {opslag, mappen, lezer, ".", [] {}, [](frmTavelo&) {}});
     Main(

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QDebug>
 #include <QPixmapCache>
+#include <QSettings>
 #include <QShortcutEvent>
 
 #include <exception>
@@ -29,6 +30,8 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     // In KiB. The toolkit keeps a picture of every button in every state and size, ten megabytes of them by the end of
     // a day; those of the windows that are open fit in this.
     QPixmapCache::setCacheLimit(512);
+    // Below what is no folder nothing can be made. (Windows has its own dialogs and keeps no such file.)
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

@@ -1,4 +1,5 @@
-// The toolkit's application, at whose edge an exception out of an event handler stops.
+// The toolkit's application, at whose edge an exception out of an event handler stops. Its dialogs keep nothing for the
+// next time: they would write a file of their own beside the settings.
 #pragma once
 
 #include <QApplication>

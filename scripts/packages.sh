@@ -4,19 +4,21 @@
 # To build and run the program. The fonts give the display its metric equal of Arial.
 packages_run=(
     cmake ninja-build g++ pkgconf
-    qt6-base-dev libgl1-mesa-dev libzip-dev libexpat1-dev libssl-dev
+    qt6-base-dev libgl1-mesa-dev libzip-dev libexpat1-dev libssl-dev libxcb1-dev
     fonts-liberation cmark-gfm
 )
 
-# To play the demonstration on a virtual display: server, window manager, keys and mouse, pictures.
+# To play the demonstration on a virtual display: servers with one output and with two, window manager, keys and mouse,
+# pictures.
 packages_demo=(
     python3
     xvfb openbox xdotool imagemagick x11-utils
+    xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
 )
 
-# To test: everything above and these.
+# To test: everything above and these, among them a compositor to fade the splash in.
 packages_test=(
-    libgtest-dev libbenchmark-dev clang-format-14
+    libgtest-dev libbenchmark-dev clang-format-14 xcompmgr
 )
 
 # To make the Debian package and have it checked (./package).

@@ -13,6 +13,8 @@ import tempfile
 import time
 from pathlib import Path
 
+from x11 import X11
+
 LETTERTYPE = "/usr/share/fonts/truetype/liberation/LiberationSans-Regular.ttf"
 
 
@@ -20,7 +22,7 @@ class Anders(Exception):
     """The screen does not show what it should."""
 
 
-def wacht_tot(voorwaarde, wat, seconden=10.0):
+def wacht_tot(voorwaarde, wat, seconden=10.0, tussen=0.1):
     """Looks again and again until `voorwaarde()` gives something true, and returns that."""
     einde = time.monotonic() + seconden
     while True:
@@ -29,7 +31,7 @@ def wacht_tot(voorwaarde, wat, seconden=10.0):
             return uitkomst
         if time.monotonic() > einde:
             raise Anders(f"na {seconden:g} s nog niet: {wat}")
-        time.sleep(0.1)
+        time.sleep(tussen)
 
 
 class Beeld:
@@ -163,24 +165,33 @@ class Scherm:
             "TZ": "Europe/Amsterdam"
         } | (omgeving or {})
         self.omgeving["DISPLAY"] = self._start_server()
+        self.x11 = X11(self.omgeving["DISPLAY"])
+        self._taken.callback(self.x11.sluit)
+        self._richt_in()
         self._start_achtergrond("openbox", "--sm-disable")
         wacht_tot(lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.roep("xprop", "-root"), "de vensterbeheerder", 30)
         # A pointer over a control colours it; between clicks it rests in a corner.
         self.muis_weg()
 
+    def _server(self):
+        """The command of the display server."""
+        return ["Xvfb", "-screen", "0", f"{self.breedte}x{self.hoogte}x24"]
+
+    def _richt_in(self):
+        """What the server still needs before the window manager comes."""
+
     def _start_server(self):
         lees, schrijf = os.pipe()
         # Without -noreset the server begins anew, and throws out who is just coming in, whenever its last client leaves.
-        self.server = server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(schrijf), "-screen", "0", f"{self.breedte}x{self.hoogte}x24", "-noreset",
-             "-nolisten", "tcp"],
-            pass_fds=[schrijf], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        opdracht = [*self._server(), "-displayfd", str(schrijf), "-noreset", "-nolisten", "tcp"]
+        self.server = server = subprocess.Popen(opdracht, pass_fds=[schrijf], stdout=subprocess.DEVNULL,
+                                                stderr=subprocess.DEVNULL)
         self._taken.callback(self._stop, server)
         os.close(schrijf)
         with os.fdopen(lees) as pijp:
             nummer = pijp.readline().strip()
         if not nummer:
-            raise Anders("Xvfb start niet")
+            raise Anders(f"{opdracht[0]} start niet")
         return f":{nummer}"
 
     def _start_achtergrond(self, *opdracht):
@@ -227,9 +238,11 @@ class Scherm:
         return wacht_tot(lambda: self.vensters(bijschrift), f"een venster '{bijschrift}'", seconden)[0]
 
     def beeld(self):
-        rgb = subprocess.run(["import", "-silent", "-window", "root", "-depth", "8", "rgb:-"], env=self.omgeving,
-                             check=True, capture_output=True).stdout
-        return Beeld(self.breedte, self.hoogte, rgb)
+        rgb = None
+        while rgb is None:  # between the two questions an output may have been switched off
+            breedte, hoogte = self.x11.maat()
+            rgb = self.x11.rgb(0, 0, breedte, hoogte)
+        return Beeld(breedte, hoogte, rgb)
 
     def rustig_beeld(self, seconden=10.0):
         """A picture of the screen once two in a row are the same."""
@@ -252,3 +265,85 @@ class Scherm:
 
     def __exit__(self, *_):
         self.sluit()
+
+
+XORG_CONF = """
+Section "ServerFlags"
+    Option "AutoAddDevices" "false"
+    Option "AutoEnableDevices" "false"
+    Option "AutoAddGPU" "false"
+    Option "DontVTSwitch" "true"
+EndSection
+Section "Device"
+    Identifier "kaart"
+    Driver "dummy"
+    VideoRam 262144
+EndSection
+Section "Screen"
+    Identifier "scherm"
+    Device "kaart"
+    DefaultDepth 24
+EndSection
+"""
+
+
+class TweeSchermen(Scherm):
+    """A display with two outputs: the operator's and, to the right of it, the one for the public (the wall).
+
+    Needs no graphics card, no console and no rights: the server's own program with its dummy driver.
+    """
+
+    BUREAU, WAND = "DUMMY0", "DUMMY1"
+
+    def __init__(self, bureau=(1280, 800), wand=(1920, 1080), wand_aan=True, omgeving=None):
+        self._maten = {self.BUREAU: bureau, self.WAND: wand}
+        self._begin_met_wand = wand_aan
+        super().__init__(*bureau, omgeving=omgeving)
+
+    def _server(self):
+        instelling = self.thuis / "xorg.conf"
+        instelling.write_text(XORG_CONF)
+        # Not what `Xorg` on the path may be: a wrapper that wants a console.
+        return ["/usr/lib/xorg/Xorg", "-config", str(instelling), "-logfile", str(self.thuis / "Xorg.log"),
+                "-novtswitch", "-s", "0"]
+
+    def _richt_in(self):
+        for uitgang, (breedte, hoogte) in self._maten.items():
+            maat = f"{breedte}x{hoogte}"
+            breed, hoog = breedte + 160, hoogte + 40  # with blanking; any will do
+            self.xrandr("--newmode", maat, f"{breed * hoog * 60 / 1e6:.2f}", breedte, breedte + 48, breedte + 80, breed,
+                        hoogte, hoogte + 3, hoogte + 8, hoog)
+            self.xrandr("--addmode", uitgang, maat)
+        self.xrandr("--output", self.BUREAU, "--mode", self._maat(self.BUREAU), "--pos", "0x0", "--primary")
+        if self._begin_met_wand:
+            self.steek_in()
+        if set(self.vlakken()) != {self.BUREAU} | ({self.WAND} if self._begin_met_wand else set()):
+            raise Anders(f"de schermen zijn niet uit elkaar te houden: {self.vlakken()}")
+
+    def _maat(self, uitgang):
+        return "{}x{}".format(*self._maten[uitgang])
+
+    def xrandr(self, *opdracht):
+        return self.roep("xrandr", *map(str, opdracht))
+
+    def steek_in(self):
+        """The wall is switched on."""
+        self.xrandr("--output", self.WAND, "--mode", self._maat(self.WAND), "--pos", f"{self.breedte}x0")
+        wacht_tot(lambda: self.WAND in self.vlakken(), "het tweede scherm")
+
+    def trek_uit(self):
+        """The wall is switched off."""
+        self.xrandr("--output", self.WAND, "--off")
+        wacht_tot(lambda: self.WAND not in self.vlakken(), "het einde van het tweede scherm")
+
+    def vlakken(self):
+        """The areas of the outputs that are on, by name."""
+        regels = re.findall(r"^(\S+) connected (?:primary )?(\d+)x(\d+)\+(\d+)\+(\d+)", self.xrandr(), re.MULTILINE)
+        return {naam: (int(links), int(boven), int(breedte), int(hoogte))
+                for naam, breedte, hoogte, links, boven in regels}
+
+    def bureau(self):
+        return self.vlakken()[self.BUREAU]
+
+    def wand(self):
+        return self.vlakken()[self.WAND]

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScreen>
 
 namespace tavelo {
 
@@ -207,6 +208,11 @@ frmIntro::frmIntro(QWidget* parent) : QDialog(parent, Qt::Dialog | Qt::Frameless
     setWindowTitle(QStringLiteral("Tavelo"));
     setFixedSize(maat());
     setAttribute(Qt::WA_QuitOnClose, false); // the first window to go, but not the end
+    if (const QScreen* scherm = screen()) {  // by itself it would follow the pointer, perhaps to the public's monitor
+        QRect plaats(QPoint(0, 0), maat());
+        plaats.moveCenter(scherm->availableGeometry().center());
+        move(plaats.topLeft());
+    }
     zet_transparantie(*this, 0);
 
     auto* picture = new Image1(this);

@@ -1,5 +1,7 @@
 #include "platform/codeTransparency.h"
 
+#include "platform/linux/x11.h"
+
 #include <QWidget>
 
 namespace tavelo {

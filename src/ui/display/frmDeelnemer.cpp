@@ -4,8 +4,8 @@
 #include "platform/icons.h"
 #include "platform/qt_text.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 
@@ -76,7 +76,11 @@ void frmDeelnemer::open(const std::vector<Scherm>& schermen) {
 }
 
 std::optional<std::size_t> frmDeelnemer::vrij_scherm() const {
-    return publieksscherm(schermen_, als_vlak(eigenaar_.frameGeometry()), "");
+    return publieksscherm(schermen_, als_vlak(eigenaar_.frameGeometry()));
+}
+
+bool frmDeelnemer::staat_in_de_weg() const {
+    return staat_bij_operateur(schermen_, als_vlak(eigenaar_.frameGeometry()), als_vlak(geometry()));
 }
 
 Schermvlak frmDeelnemer::plaats_op(std::optional<std::size_t> scherm) const {
@@ -104,6 +108,8 @@ void frmDeelnemer::onthoud_scherm() {
 
 void frmDeelnemer::zet_beeldvullend(bool beeldvullend, std::string_view normaal_bijschrift) {
     setWindowTitle(beeldvullend ? QString() : qt_text(normaal_bijschrift));
+    if (beeldvullend) wis_titel(*this);
+    blijft_zonder_eigenaar(*this, beeldvullend);
     // Back to normal size also when it was maximised or minimised before.
     setWindowState(beeldvullend ? Qt::WindowFullScreen : Qt::WindowNoState);
     zet_bovenaan(*this, beeldvullend);
@@ -116,38 +122,50 @@ void frmDeelnemer::zet_beeldvullend(bool beeldvullend, std::string_view normaal_
 }
 
 Monitorvenster frmDeelnemer::stand() const {
-    if (uitgeweken_) return Monitorvenster::monitor_weg;
+    if (gast_op_ == "") return Monitorvenster::monitor_weg; // beside the operator; elsewhere the public still sees it
     return beeldvullend() ? Monitorvenster::beeldvullend : Monitorvenster::gewoon;
 }
 
 void frmDeelnemer::wissel_weergave(std::string_view normaal_bijschrift) {
+    if (const auto vrij = vrij_scherm(); vrij && !beeldvullend() && staat_in_de_weg()) {
+        setWindowState(Qt::WindowNoState); // maximised it would not move
+        verplaats(plaats_op(vrij));
+    }
     zet_beeldvullend(!beeldvullend(), normaal_bijschrift);
     terug_beeldvullend_ = beeldvullend();
 }
 
 void frmDeelnemer::pas_schermen_toe(const std::vector<Scherm>& schermen) {
-    schermen_ = schermen;
-    if (schermen.empty() || !isVisible()) return;
+    if (schermen.empty()) return; // between two desktops: what comes back is not new
+    const std::vector<Scherm> eerder = std::exchange(schermen_, schermen);
+    if (!isVisible()) return;
     const auto eigen = std::ranges::find(schermen, eigen_scherm_, &Scherm::naam);
-    if (eigen == schermen.end())
+    if (eigen == schermen.end()) {
         wijk_uit();
-    else if (uitgeweken_)
+    } else if (gast_op_) {
         keer_terug(eigen->vlak);
+    } else if (const auto nieuw = nieuw_publieksscherm(eerder, schermen, als_vlak(eigenaar_.frameGeometry()));
+               nieuw && !beeldvullend() && staat_in_de_weg()) {
+        verhuis(plaats_op(nieuw), false);
+        eigen_scherm_ = schermen[*nieuw].naam;
+    }
     veranderd_();
 }
 
 void frmDeelnemer::wijk_uit() {
-    if (!uitgeweken_) {
-        uitgeweken_ = true;
+    const auto ander = vrij_scherm();
+    const std::string gast_op = ander ? schermen_[*ander].naam : "";
+    if (gast_op_ == gast_op) return;
+    if (!gast_op_) {
         terug_beeldvullend_ = beeldvullend();
         terug_plaats_ = als_vlak(beeldvullend() ? normalGeometry() : geometry());
     }
-    const auto ander = vrij_scherm();
-    verhuis(plaats_op(ander), beeldvullend() && ander);
+    gast_op_ = gast_op;
+    verhuis(plaats_op(ander), terug_beeldvullend_ && ander);
 }
 
 void frmDeelnemer::keer_terug(const Schermvlak& eigen_scherm) {
-    uitgeweken_ = false;
+    gast_op_.reset();
     // A monitor that is plugged in again may stand elsewhere on the desktop.
     const bool staat_daar = overlap(terug_plaats_, eigen_scherm) > 0;
     verhuis(staat_daar ? terug_plaats_ : plaats_midden(eigen_scherm, gewenste_maat), terug_beeldvullend_);
@@ -155,13 +173,14 @@ void frmDeelnemer::keer_terug(const Schermvlak& eigen_scherm) {
 
 // A window that fills a screen does not move, so it leaves full screen first.
 void frmDeelnemer::verhuis(const Schermvlak& plaats, bool daarna_beeldvullend) {
-    const bool operateur_typt = eigenaar_.isActiveWindow();
+    QWidget* const actief = QApplication::activeWindow(); // where the operator types
     if (beeldvullend()) zet_beeldvullend(false, deelnemer_bijschrift);
+    setWindowState(Qt::WindowNoState);
     verplaats(plaats);
     if (daarna_beeldvullend) zet_beeldvullend(true, deelnemer_bijschrift);
-    if (operateur_typt) {
-        eigenaar_.activateWindow();
-        raise();
+    if (actief && actief != this) {
+        actief->activateWindow();
+        if (actief == &eigenaar_) raise();
     }
 }
 
@@ -174,7 +193,7 @@ void frmDeelnemer::resizeEvent(QResizeEvent* /*event*/) {
 
 void frmDeelnemer::moveEvent(QMoveEvent* /*event*/) {
     // The operator dragged it: it belongs where it stands now. While its own screen is away it stays a guest.
-    if (!verplaatst_zelf_ && !uitgeweken_ && isVisible()) onthoud_scherm();
+    if (!verplaatst_zelf_ && !gast_op_ && isVisible()) onthoud_scherm();
 }
 
 void frmDeelnemer::keyPressEvent(QKeyEvent* event) {
@@ -214,6 +233,14 @@ void frmDeelnemer::closeEvent(QCloseEvent* event) {
     programma_.deelnemer_open = false; // from here on nothing is composed for it
     event->accept();
     veranderd_();
+}
+
+bool frmDeelnemer::nativeEvent(const QByteArray& soort, void* bericht, qintptr* uitkomst) {
+    if (beeldvullend() && meldt_verkleinde_eigenaar(bericht)) {
+        *uitkomst = 0;
+        return true;
+    }
+    return QWidget::nativeEvent(soort, bericht, uitkomst);
 }
 
 } // namespace tavelo

@@ -2,7 +2,11 @@
 // or pointer, above everything, the display kept awake.
 //
 // It knows the screen it belongs to. When that monitor goes away the window moves to another, and out of full screen
-// where only the operator's is left; when the monitor comes back, so does the window.
+// where only the operator's is left; when the monitor comes back, so does the window. In normal view on the operator's
+// screen it moves to a monitor that is switched on. No move takes the focus.
+//
+// It is owned by the main window: it closes with it and stays above it. Full screen it stays where it is when the main
+// window is minimised.
 #pragma once
 
 #include "app/programma.h"
@@ -55,6 +59,7 @@ class frmDeelnemer final : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool nativeEvent(const QByteArray& soort, void* bericht, qintptr* uitkomst) override;
 
   private:
     void zet_beeldvullend(bool beeldvullend, std::string_view normaal_bijschrift);
@@ -62,6 +67,7 @@ class frmDeelnemer final : public QWidget {
     void verhuis(const Schermvlak& plaats, bool daarna_beeldvullend);
     void wijk_uit();
     void keer_terug(const Schermvlak& eigen_scherm);
+    [[nodiscard]] bool staat_in_de_weg() const; // on the operator's screen
     // A screen without the main window, and the place on it; without one beside the main window.
     [[nodiscard]] std::optional<std::size_t> vrij_scherm() const;
     [[nodiscard]] Schermvlak plaats_op(std::optional<std::size_t> scherm) const;
@@ -79,7 +85,8 @@ class frmDeelnemer final : public QWidget {
 
     std::vector<Scherm> schermen_;
     std::string eigen_scherm_; // name of the screen that it belongs to
-    bool uitgeweken_ = false;  // that screen is away
+    // That screen is away and the window stands on this one; the empty name is the operator's.
+    std::optional<std::string> gast_op_;
     bool terug_beeldvullend_ = false;
     Schermvlak terug_plaats_;
     bool verplaatst_zelf_ = false; // a move by the program does not change where it belongs

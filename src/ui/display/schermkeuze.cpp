@@ -37,6 +37,17 @@ Schermvlak in_hoek(const Schermvlak& ruimte, const Schermvlak& wens, bool ondera
     return maat;
 }
 
+// The first screen that is free for the public and has the property asked for.
+std::optional<std::size_t> eerste_vrije(std::span<const Scherm> schermen, const Schermvlak& hoofdvenster,
+                                        const auto& geschikt) {
+    const std::optional<std::size_t> van_operateur = scherm_van(schermen, hoofdvenster);
+    for (std::size_t i = 0; i < schermen.size(); ++i)
+        if (i != van_operateur && overlap(schermen[i].vlak, schermen[*van_operateur].vlak) == 0 &&
+            geschikt(schermen[i]))
+            return i;
+    return std::nullopt;
+}
+
 } // namespace
 
 long long overlap(const Schermvlak& a, const Schermvlak& b) {
@@ -52,15 +63,19 @@ std::optional<std::size_t> scherm_van(std::span<const Scherm> schermen, const Sc
     return static_cast<std::size_t>(meeste - schermen.begin());
 }
 
-std::optional<std::size_t> publieksscherm(std::span<const Scherm> schermen, const Schermvlak& hoofdvenster,
-                                          std::string_view voorkeur) {
-    const std::optional<std::size_t> van_operateur = scherm_van(schermen, hoofdvenster);
-    std::optional<std::size_t> gekozen;
-    for (std::size_t i = 0; i < schermen.size(); ++i) {
-        if (!voorkeur.empty() && schermen[i].naam == voorkeur) return i;
-        if (!gekozen && i != van_operateur) gekozen = i;
-    }
-    return gekozen;
+std::optional<std::size_t> publieksscherm(std::span<const Scherm> schermen, const Schermvlak& hoofdvenster) {
+    return eerste_vrije(schermen, hoofdvenster, [](const Scherm&) { return true; });
+}
+
+std::optional<std::size_t> nieuw_publieksscherm(std::span<const Scherm> eerder, std::span<const Scherm> nu,
+                                                const Schermvlak& hoofdvenster) {
+    return eerste_vrije(nu, hoofdvenster, [&](const Scherm& scherm) {
+        return !eerste_vrije(eerder, hoofdvenster, [&](const Scherm& s) { return s.naam == scherm.naam; });
+    });
+}
+
+bool staat_bij_operateur(std::span<const Scherm> schermen, const Schermvlak& hoofdvenster, const Schermvlak& venster) {
+    return scherm_van(schermen, hoofdvenster) == scherm_van(schermen, venster);
 }
 
 Schermvlak plaats_midden(const Schermvlak& scherm, const Schermvlak& wens) {

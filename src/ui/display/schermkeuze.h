@@ -6,7 +6,6 @@
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 
 namespace tavelo {
 
@@ -35,10 +34,19 @@ enum class Monitorvenster : std::uint8_t { gewoon, beeldvullend, monitor_weg };
 // The screen that shows most of the window; the first one when none shows any of it. Nothing without screens.
 [[nodiscard]] std::optional<std::size_t> scherm_van(std::span<const Scherm> schermen, const Schermvlak& venster);
 
-// The screen for the public: the one named `voorkeur` when it is there, else the first that does not hold the main
-// window. Nothing when the operator's screen is the only one.
+// The screen for the public: the first that neither is the operator's, the one with the main window, nor shows a piece
+// of that one (a monitor may show the same as another). Nothing without such a screen.
 [[nodiscard]] std::optional<std::size_t> publieksscherm(std::span<const Scherm> schermen,
-                                                        const Schermvlak& hoofdvenster, std::string_view voorkeur);
+                                                        const Schermvlak& hoofdvenster);
+
+// A screen for the public that was none before: a monitor that was switched on, or that no longer shows what the
+// operator's does. Nothing without one.
+[[nodiscard]] std::optional<std::size_t>
+nieuw_publieksscherm(std::span<const Scherm> eerder, std::span<const Scherm> nu, const Schermvlak& hoofdvenster);
+
+// Whether a window stands on the screen of the main window, so that the operator has it in the way.
+[[nodiscard]] bool staat_bij_operateur(std::span<const Scherm> schermen, const Schermvlak& hoofdvenster,
+                                       const Schermvlak& venster);
 
 // The normal view in the middle of a screen of its own.
 [[nodiscard]] Schermvlak plaats_midden(const Schermvlak& scherm, const Schermvlak& wens);

@@ -15,20 +15,46 @@ constexpr Schermvlak wens{0, 0, 960, 540};
 
 TEST(Publieksscherm, is_het_eerste_scherm_waar_het_hoofdvenster_niet_staat) {
     const std::array schermen = {laptop, monitor, beamer};
-    EXPECT_EQ(publieksscherm(schermen, op_laptop, ""), 1U);
-    EXPECT_EQ(publieksscherm(schermen, {2000, 100, 1240, 760}, ""), 0U);
-}
-
-TEST(Publieksscherm, is_het_genoemde_scherm_als_dat_er_is_ook_waar_het_hoofdvenster_staat) {
-    const std::array schermen = {laptop, monitor, beamer};
-    EXPECT_EQ(publieksscherm(schermen, op_laptop, "DP-2"), 2U);
-    EXPECT_EQ(publieksscherm(schermen, op_laptop, "eDP-1"), 0U);
-    EXPECT_EQ(publieksscherm(schermen, op_laptop, "weg"), 1U);
+    EXPECT_EQ(publieksscherm(schermen, op_laptop), 1U);
+    EXPECT_EQ(publieksscherm(schermen, {2000, 100, 1240, 760}), 0U);
 }
 
 TEST(Publieksscherm, is_er_niet_met_een_scherm_of_geen) {
-    EXPECT_EQ(publieksscherm(std::array{laptop}, op_laptop, ""), std::nullopt);
-    EXPECT_EQ(publieksscherm({}, op_laptop, ""), std::nullopt);
+    EXPECT_EQ(publieksscherm(std::array{laptop}, op_laptop), std::nullopt);
+    EXPECT_EQ(publieksscherm({}, op_laptop), std::nullopt);
+}
+
+TEST(Publieksscherm, is_niet_een_monitor_die_hetzelfde_toont_als_het_scherm_van_de_operateur) {
+    const Scherm kopie{"HDMI-1", laptop.vlak};
+    EXPECT_EQ(publieksscherm(std::array{laptop, kopie}, op_laptop), std::nullopt);
+    EXPECT_EQ(publieksscherm(std::array{kopie, laptop}, op_laptop), std::nullopt);
+    EXPECT_EQ(publieksscherm(std::array{laptop, kopie, beamer}, op_laptop), 2U);
+}
+
+TEST(NieuwPublieksscherm, is_de_monitor_die_is_aangezet) {
+    EXPECT_EQ(nieuw_publieksscherm(std::array{laptop}, std::array{laptop, monitor}, op_laptop), 1U);
+    EXPECT_EQ(nieuw_publieksscherm(std::array{laptop, monitor}, std::array{laptop, monitor, beamer}, op_laptop), 2U);
+}
+
+TEST(NieuwPublieksscherm, is_de_monitor_die_niet_langer_hetzelfde_toont_als_het_scherm_van_de_operateur) {
+    const Scherm kopie{monitor.naam, laptop.vlak};
+    EXPECT_EQ(nieuw_publieksscherm(std::array{laptop}, std::array{laptop, kopie}, op_laptop), std::nullopt);
+    EXPECT_EQ(nieuw_publieksscherm(std::array{laptop, kopie}, std::array{laptop, monitor}, op_laptop), 1U);
+}
+
+TEST(NieuwPublieksscherm, is_er_niet_als_er_niets_bij_is_gekomen_of_het_scherm_van_de_operateur_terug_is) {
+    EXPECT_EQ(nieuw_publieksscherm(std::array{laptop, monitor}, std::array{laptop, monitor}, op_laptop), std::nullopt);
+    EXPECT_EQ(nieuw_publieksscherm(std::array{laptop, monitor}, std::array{laptop}, op_laptop), std::nullopt);
+    EXPECT_EQ(nieuw_publieksscherm(std::array{monitor}, std::array{laptop, monitor}, op_laptop), 1U);
+    EXPECT_EQ(nieuw_publieksscherm({}, std::array{laptop}, op_laptop), std::nullopt);
+}
+
+TEST(StaatBijOperateur, is_op_het_scherm_met_het_meeste_van_het_hoofdvenster) {
+    const std::array schermen = {laptop, monitor};
+    EXPECT_TRUE(staat_bij_operateur(schermen, op_laptop, {500, 500, 960, 540}));
+    EXPECT_TRUE(staat_bij_operateur(schermen, op_laptop, {1300, 500, 960, 540})); // most of it
+    EXPECT_FALSE(staat_bij_operateur(schermen, op_laptop, {1700, 500, 960, 540}));
+    EXPECT_TRUE(staat_bij_operateur(std::array{laptop}, op_laptop, {500, 500, 960, 540}));
 }
 
 TEST(SchermVan, is_het_scherm_dat_het_meeste_van_het_venster_toont) {

@@ -24,6 +24,15 @@ TEST(FrmIntro, begint_doorzichtig_en_wordt_helder_voor_hij_vanzelf_sluit) {
     EXPECT_GE(klok.elapsed(), 2990);
 }
 
+TEST(FrmIntro, gaat_niet_weg_met_esc_of_het_kruisje) {
+    frmIntro intro;
+    intro.open();
+    QTest::keyClick(&intro, Qt::Key_Escape);
+    EXPECT_TRUE(intro.isVisible());
+    EXPECT_FALSE(intro.close());
+    EXPECT_TRUE(intro.isVisible());
+}
+
 TEST(FrmIntro, toont_de_versie_en_het_plaatje_vult_het_venster) {
     frmIntro intro;
     EXPECT_EQ(intro.findChild<QLabel*>("lblVersie")->text(), "versie " TAVELO_VERSION);

@@ -12,6 +12,8 @@
 namespace tavelo {
 namespace {
 
+Schermvlak als_vlak(const QRect& r) { return {r.x(), r.y(), r.width(), r.height()}; }
+
 struct FrmDeelnemer : testing::Test {
     test::Opstelling opstelling;
     Programma& programma = opstelling.programma;
@@ -36,10 +38,7 @@ struct FrmDeelnemer : testing::Test {
         venster->open(schermen);
         QCoreApplication::processEvents();
     }
-    [[nodiscard]] Schermvlak plaats() const {
-        const QRect r = venster->geometry();
-        return {r.x(), r.y(), r.width(), r.height()};
-    }
+    [[nodiscard]] Schermvlak plaats() const { return als_vlak(venster->geometry()); }
 };
 
 const Scherm bureau{"bureau", {0, 0, 1280, 800}};
@@ -222,6 +221,87 @@ TEST_F(FrmDeelnemer, een_monitor_die_elders_terugkomt_krijgt_het_venster_in_zijn
     EXPECT_EQ(plaats(), (Schermvlak{-1440, 270, 960, 540}));
 }
 
+TEST_F(FrmDeelnemer, een_andere_monitor_dan_de_verdwenen_krijgt_het_venster_beeldvullend) {
+    open({bureau, monitor});
+    QTest::keyClick(venster, Qt::Key_F11);
+    venster->pas_schermen_toe({bureau});
+    EXPECT_FALSE(venster->beeldvullend());
+    venster->pas_schermen_toe({bureau, beamer}); // the same wall on another socket
+    EXPECT_TRUE(venster->beeldvullend());
+    EXPECT_GT(overlap(als_vlak(venster->normalGeometry()), beamer.vlak), 0);
+}
+
+TEST_F(FrmDeelnemer, een_gast_bij_de_operateur_blijft_staan_waar_die_hem_neerzet) {
+    open({bureau, monitor});
+    venster->pas_schermen_toe({bureau});
+    venster->setGeometry(600, 400, 640, 360);
+    venster->pas_schermen_toe({bureau}); // a panel that changes the room on the screen
+    EXPECT_EQ(plaats(), (Schermvlak{600, 400, 640, 360}));
+}
+
+TEST_F(FrmDeelnemer, gaat_vanzelf_naar_een_monitor_die_later_wordt_aangezet) {
+    open({bureau});
+    ASSERT_EQ(overlap(plaats(), monitor.vlak), 0);
+    venster->pas_schermen_toe({bureau, monitor});
+    EXPECT_EQ(plaats(), (Schermvlak{1760, 270, 960, 540}));
+    EXPECT_FALSE(venster->beeldvullend());
+    // From now on it belongs there.
+    venster->pas_schermen_toe({bureau});
+    venster->pas_schermen_toe({bureau, monitor});
+    EXPECT_EQ(plaats(), (Schermvlak{1760, 270, 960, 540}));
+}
+
+TEST_F(FrmDeelnemer, gaat_ook_gemaximaliseerd_naar_een_monitor_die_later_wordt_aangezet) {
+    open({bureau});
+    venster->setWindowState(Qt::WindowMaximized);
+    venster->pas_schermen_toe({bureau, monitor});
+    EXPECT_EQ(venster->windowState(), Qt::WindowNoState);
+    EXPECT_EQ(plaats(), (Schermvlak{1760, 270, 960, 540}));
+}
+
+TEST_F(FrmDeelnemer, gaat_pas_naar_een_monitor_als_die_iets_anders_toont_dan_het_scherm_van_de_operateur) {
+    open({bureau});
+    const Schermvlak eerst = plaats();
+    venster->pas_schermen_toe({bureau, {"monitor", bureau.vlak}});
+    EXPECT_EQ(plaats(), eerst);
+    venster->pas_schermen_toe({bureau, monitor});
+    EXPECT_EQ(plaats(), (Schermvlak{1760, 270, 960, 540}));
+}
+
+TEST_F(FrmDeelnemer, beeldvullend_op_het_enige_scherm_blijft_staan_als_er_een_monitor_bij_komt) {
+    open({bureau});
+    QTest::keyClick(venster, Qt::Key_F11);
+    const QRect gewoon = venster->normalGeometry();
+    venster->pas_schermen_toe({bureau, monitor});
+    EXPECT_TRUE(venster->beeldvullend());
+    EXPECT_EQ(venster->normalGeometry(), gewoon);
+}
+
+TEST_F(FrmDeelnemer, f11_bij_de_operateur_gaat_naar_het_vrije_scherm) {
+    for (const Qt::WindowState stand : {Qt::WindowNoState, Qt::WindowMaximized}) {
+        open({bureau, monitor});
+        venster->setGeometry(100, 100, 640, 360);
+        venster->setWindowState(stand);
+        QTest::keyClick(venster, Qt::Key_F11);
+        EXPECT_TRUE(venster->beeldvullend());
+        EXPECT_EQ(venster->normalGeometry(), QRect(1760, 270, 960, 540)) << stand;
+        QTest::keyClick(venster, Qt::Key_F11); // it stays where the public looks
+        EXPECT_EQ(plaats(), (Schermvlak{1760, 270, 960, 540})) << stand;
+    }
+}
+
+TEST_F(FrmDeelnemer, f11_blijft_waar_het_publiek_kijkt_of_waar_alleen_de_operateur_een_scherm_heeft) {
+    open({bureau, monitor, beamer});
+    venster->setGeometry(100, 900, 640, 360); // on the beamer, not the first free screen
+    QTest::keyClick(venster, Qt::Key_F11);
+    EXPECT_EQ(venster->normalGeometry(), QRect(100, 900, 640, 360));
+    QTest::keyClick(venster, Qt::Key_F11);
+    open({bureau});
+    venster->setGeometry(100, 100, 640, 360);
+    QTest::keyClick(venster, Qt::Key_F11);
+    EXPECT_EQ(venster->normalGeometry(), QRect(100, 100, 640, 360));
+}
+
 TEST_F(FrmDeelnemer, een_scherm_erbij_verplaatst_niets) {
     open({bureau, monitor});
     venster->setGeometry(1500, 200, 640, 360);
@@ -229,6 +309,10 @@ TEST_F(FrmDeelnemer, een_scherm_erbij_verplaatst_niets) {
     EXPECT_EQ(plaats(), (Schermvlak{1500, 200, 640, 360}));
     venster->pas_schermen_toe({}); // for a moment no screen at all
     EXPECT_EQ(plaats(), (Schermvlak{1500, 200, 640, 360}));
+    venster->setGeometry(100, 100, 640, 360); // the operator wants it here
+    venster->pas_schermen_toe({});
+    venster->pas_schermen_toe({bureau, monitor, beamer}); // none of them is new
+    EXPECT_EQ(plaats(), (Schermvlak{100, 100, 640, 360}));
 }
 
 } // namespace

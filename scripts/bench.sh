@@ -24,4 +24,6 @@ if [ "$#" -eq 0 ]; then
     bench/excel.py
     echo "== bench_start.py"
     scripts/bench_start.py --program build/release/src/tavelo
+    echo "== bench_toets.py"
+    scripts/bench_toets.py --program build/release/src/tavelo --empty build/release/bench/leeg_venster
 fi

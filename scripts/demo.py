@@ -21,7 +21,7 @@ import sys
 import time
 from pathlib import Path
 
-from scherm import Anders, Scherm, inktbreedte, wacht_tot
+from scherm import Anders, Scherm, TweeSchermen, inktbreedte, wacht_tot
 
 EXAMPLES = Path(__file__).resolve().parent.parent / "examples"
 
@@ -53,11 +53,18 @@ EXCEL_SLEUTELS = ["col_startnumber", "col_hnr", "col_rider_name", "col_horse_nam
 EXCEL_TOETSEN = "shrnvmkglbfi"
 
 MARKERING = (48, 140, 198)  # a selected row
+AMBER = (0xFF, 0xBF, 0x3C)  # what the status line wants seen
 
 
 def letterlijk(bijschrift):
     """A caption as a regular expression."""
     return re.sub(r"([][().])", r"\\\1", bijschrift)
+
+
+def ligt_in(binnen, buiten):
+    """Whether an area lies wholly within another one."""
+    return (buiten[0] <= binnen[0] and binnen[0] + binnen[2] <= buiten[0] + buiten[2] and buiten[1] <= binnen[1]
+            and binnen[1] + binnen[3] <= buiten[1] + buiten[3])
 
 
 def eis(voorwaarde, anders):
@@ -269,9 +276,9 @@ class Demonstratie:
                                                       uiterlijk=uiterlijk), "monitor")
 
     @contextlib.contextmanager
-    def op_scherm(self):
+    def op_scherm(self, soort=Scherm):
         """A display; what stands on it when a step goes wrong is kept as mis.png."""
-        with Scherm() as scherm:
+        with soort() as scherm:
             try:
                 yield scherm
             except Anders:
@@ -586,7 +593,112 @@ class Demonstratie:
             wacht_tot(lambda: not scherm.vensters("Kleur kiezen"), "het sluiten van de kleuren")
 
 
-HOOFDSTUKKEN = ["rooster", "wijziging", "startlijst", "uiterlijk"]
+    def wedstrijddag(self):
+        verslag = self.verslag
+        verslag.hoofdstuk("Een wedstrijddag op twee schermen")
+        with self.op_scherm(TweeSchermen) as scherm:
+            schrijf_instellingen(scherm, UITERLIJK)
+            ochtend, middag = (scherm.thuis / "Documents" / naam for naam in ("ochtend.rst", "middag.rst"))
+            for voorbeeld, bestand in (("springen.rst", ochtend), ("dressuur.rst", middag)):
+                shutil.copy(EXAMPLES / voorbeeld, bestand)
+                os.utime(bestand, (time.time() - 60,) * 2)
+            rijen = genummerde_rijen(self.dump.lees(ochtend)["rooster"])
+            nummer, volgende = rijen[4][1], rijen[6][1]
+
+            bediening = Bediening(scherm, self.programma)
+            bediening.wacht_op_hoofdvenster()
+            bediening.open(ochtend)
+            bediening.wacht_op_bijschrift(self.dump.lees(ochtend)["bijschrift"])
+            bediening.typ_nummer(nummer)
+            monitor = bediening.open_monitor()
+            eis(ligt_in(monitor.vlak(), scherm.wand()), "het monitorvenster opent niet op het tweede scherm")
+            verslag.stap("begin", f"Het rooster is open, nummer {nummer} is getypt en het monitorvenster staat vanzelf op "
+                                  "het tweede scherm.", scherm.rustig_beeld())
+
+            bediening.hoofd.activeer()
+            scherm.toets("F11")
+            wacht_tot(lambda: monitor.vlak() == scherm.wand(), "het beeldvullende venster op het tweede scherm")
+            beeld = scherm.rustig_beeld()
+            self.controleer_monitor(beeld.uitsnede(scherm.wand()), ochtend, nummer)
+            verslag.stap("wand", "F11: het vult dat scherm. De operateur houdt het eerste.", beeld)
+
+            time.sleep(1.6)  # after this pause a digit begins the next number
+            scherm.typ(volgende)
+            beeld = scherm.rustig_beeld()
+            self.controleer_monitor(beeld.uitsnede(scherm.wand()), ochtend, volgende)
+            verslag.stap("volgende", f"De volgende komt binnen: {volgende}, zonder Enter en zonder te wissen.", beeld)
+            wand = beeld.uitsnede(scherm.wand())
+
+            scherm.xdotool("windowminimize", bediening.hoofd.nummer)
+            beeld = scherm.rustig_beeld()
+            eis(beeld.kleur(400, 300) == (0, 0, 0), "het hoofdvenster is niet klein gemaakt")
+            eis(beeld.uitsnede(scherm.wand()) == wand, "de wand gaat mee met het hoofdvenster")
+            verslag.stap("klein", "Het hoofdvenster klein maken laat de monitor staan.", beeld)
+            bediening.hoofd.activeer()
+
+            eis(not self.in_amber(bediening, scherm.rustig_beeld()), "de statusregel is al amber")
+            scherm.trek_uit()
+            wacht_tot(lambda: monitor.heeft_rand() and self.in_amber(bediening, scherm.beeld()), "het uitwijken")
+            verslag.stap("los", "Iemand trekt de stekker van de monitor uit: het venster staat naast de lijst, de "
+                                "statusregel zegt waarom, de toetsen blijven bij de operateur.", scherm.rustig_beeld())
+            scherm.steek_in()
+            wacht_tot(lambda: monitor.vlak() == scherm.wand(), "het terugkeren naar de monitor")
+            beeld = scherm.rustig_beeld()
+            self.controleer_monitor(beeld.uitsnede(scherm.wand()), ochtend, volgende)
+            wand = beeld.uitsnede(scherm.wand())
+            verslag.stap("vast", "De stekker zit er weer in: alles staat terug.", beeld)
+
+            self.herschrijf(scherm, bediening, ochtend, volgende)
+            wacht_tot(lambda: self.in_amber(bediening, scherm.beeld()), "de amberen statusregel")
+            beeld = scherm.rustig_beeld()
+            eis(beeld.uitsnede(scherm.wand()) == wand, "wat op de monitor staat verandert uit zichzelf")
+            verslag.stap("herschreven", "Het wedstrijdprogramma heeft het rooster herschreven: de statusregel zegt wat, en "
+                                        "in amber dat het paard op de monitor niet meer klopt.", beeld)
+            scherm.toets("F6")
+            verslagvenster = scherm.venster("Wijzigingen van vandaag")
+            eis(ligt_in(verslagvenster.vlak(), scherm.bureau()), "de wijzigingen staan op de monitor")
+            verslag.stap("wijzigingen", "F6 laat zien wat er gewijzigd is.", scherm.rustig_beeld())
+            scherm.toets("Escape")
+            wacht_tot(lambda: not scherm.vensters("Wijzigingen van vandaag"), "het sluiten van de wijzigingen")
+            bediening.typ_nummer(volgende)
+            beeld = scherm.rustig_beeld()
+            self.controleer_monitor(beeld.uitsnede(scherm.wand()), ochtend, volgende)
+            eis(not self.in_amber(bediening, beeld), "de statusregel blijft amber")
+            wand = beeld.uitsnede(scherm.wand())
+            verslag.stap("bijgewerkt", "Het nummer nog eens getypt: het nieuwe paard staat er, het amber is weg.", beeld)
+
+            bediening.open(middag, "alt+2")
+            bediening.wacht_op_bijschrift(self.dump.lees(middag)["bijschrift"])
+            beeld = scherm.rustig_beeld()
+            eis(beeld.uitsnede(scherm.wand()) == wand, "de wand wisselt mee met de lijst")
+            eis(self.in_amber(bediening, beeld), "de statusregel verzwijgt de andere lijst")
+            verslag.stap("lijstwissel", "Rooster 2 wordt vast geopend. Op de monitor rijdt nog de vorige rubriek; de "
+                                        "statusregel zegt het in amber.", beeld)
+            nummer = genummerde_rijen(self.dump.lees(middag)["rooster"])[0][1]
+            beeld = bediening.typ_nummer(nummer)
+            self.controleer_monitor(beeld.uitsnede(scherm.wand()), middag, nummer)
+            eis(not self.in_amber(bediening, beeld), "de statusregel blijft amber")
+            verslag.stap("nieuwe-rubriek", f"De nieuwe rubriek begint: nummer {nummer}.", beeld)
+            bediening.sluit()
+            wacht_tot(lambda: not scherm.vensters("Wijzigingen.*"), "het einde van alle vensters")
+
+    @staticmethod
+    def in_amber(bediening, beeld):
+        """Whether the status line at the foot of the main window wants something seen."""
+        links, boven, breedte, hoogte = bediening.hoofd.vlak()
+        return beeld.uitsnede((links, boven + hoogte - 40, breedte, 40)).aandeel(AMBER) > 0
+
+    @staticmethod
+    def herschrijf(scherm, bediening, bestand, nummer):
+        """The other program rewrites the file; waits until the list follows."""
+        nieuw = scherm.thuis / "nieuw.rst"
+        herschreven_rooster(bestand, nieuw, nummer, nieuwe="199")
+        lijst = bediening.lijst(scherm.beeld())
+        subprocess.run(["cp", str(nieuw), str(bestand)], check=True)
+        wacht_tot(lambda: bediening.lijst(scherm.beeld()) != lijst, "het volgen van het gewijzigde rooster", 25)
+
+
+HOOFDSTUKKEN = ["rooster", "wijziging", "startlijst", "uiterlijk", "wedstrijddag"]
 
 
 def main():

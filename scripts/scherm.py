@@ -90,9 +90,10 @@ class Beeld:
         links, rechts = min(g[1] for g in gevonden), max(g[2] for g in gevonden)
         return links, gevonden[0][0], rechts - links + 1, gevonden[-1][0] - gevonden[0][0] + 1
 
-    def bewaar(self, pad, kleuren=None):
-        """As a PNG; with a number of colours it becomes much smaller."""
-        beperking = ["+dither", "-colors", str(kleuren)] if kleuren else []
+    def bewaar(self, pad, kleuren=None, schaal=100):
+        """As a PNG; with a number of colours it becomes much smaller. The scale is in percent."""
+        beperking = ["-resize", f"{schaal}%"] if schaal != 100 else []
+        beperking += ["+dither", "-colors", str(kleuren)] if kleuren else []
         subprocess.run(["convert", "-size", f"{self.breedte}x{self.hoogte}", "-depth", "8", "rgb:-", "-strip",
                         *beperking, f"png:{pad}"], input=self.rgb, check=True)
 
@@ -208,9 +209,9 @@ class Scherm:
         proces.kill()
         proces.wait()
 
-    def start(self, programma):
+    def start(self, programma, *opties):
         """Starts the program; it is ended with the display when it still runs by then."""
-        proces = subprocess.Popen([str(programma)], env=self.omgeving, cwd=self.thuis)
+        proces = subprocess.Popen([str(programma), *opties], env=self.omgeving, cwd=self.thuis)
         self._taken.callback(self._stop, proces)
         return proces
 
@@ -244,8 +245,8 @@ class Scherm:
             rgb = self.x11.rgb(0, 0, breedte, hoogte)
         return Beeld(breedte, hoogte, rgb)
 
-    def rustig_beeld(self, seconden=10.0):
-        """A picture of the screen once two in a row are the same."""
+    def rustig_beeld(self, seconden=30.0):
+        """A picture of the screen once two in a row are the same. (A caret blinks: a slow computer needs some tries.)"""
         vorig = self.beeld()
 
         def rustig():

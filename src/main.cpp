@@ -22,6 +22,7 @@
 #include "ui/settings/frmInstellingen.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 
 int main(int argc, char** argv) {
@@ -63,5 +64,9 @@ int main(int argc, char** argv) {
     const Ending einde([&] { venster.close(); }, [&] { bewaar_bij_afsluiten(programma, *opslag); });
 
     Main(programma, *opslag, mouse_wheel_present, venster);
-    return programma.afgesloten ? 0 : Application::exec();
+    if (programma.afgesloten) return 0;
+    // A file to open is all that the command line may hold; what is to be set is set in the settings.
+    if (const QStringList genoemd = Application::arguments().mid(1); !genoemd.isEmpty())
+        venster.open_genoemd(utf8(QDir::toNativeSeparators(QFileInfo(genoemd.constFirst()).absoluteFilePath())));
+    return Application::exec();
 }

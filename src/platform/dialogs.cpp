@@ -6,7 +6,6 @@
 #include "platform/qt_text.h"
 
 #include <QApplication>
-#include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QScreen>
@@ -17,13 +16,12 @@ namespace {
 
 constexpr QSize ruime_maat(780, 460); // of the open dialog: whole names beside size, kind and date
 
-// The settings dialog while it asks for a colour, else the operator's window.
+} // namespace
+
 QWidget* parent_window(const DialogOwner& owner) {
     QWidget* modal = QApplication::activeModalWidget();
     return modal ? modal : owner.window.data();
 }
-
-} // namespace
 
 void QtMessageBox::show(std::string_view text) {
     QMessageBox box(QMessageBox::NoIcon, qt_text(programma_titel), qt_text(text), QMessageBox::Ok,
@@ -60,15 +58,6 @@ std::optional<std::string> QtOpenDialog::ask(const OpenRequest& request) {
     blijf_bereikbaar(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     return utf8(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
-}
-
-std::optional<std::int32_t> QtColourDialog::ask(std::int32_t preselected) {
-    QColorDialog dialog(qt_colour(preselected), parent_window(owner_));
-    dialog.setObjectName(QStringLiteral("dlgKleur"));
-    dialog.setWindowTitle(QStringLiteral("Kleur kiezen"));
-    blijf_bereikbaar(dialog);
-    if (dialog.exec() != QDialog::Accepted) return {};
-    return kern_colour(dialog.currentColor());
 }
 
 } // namespace tavelo

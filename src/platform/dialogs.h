@@ -1,5 +1,6 @@
-// Message box, open dialog and colour dialog of the toolkit. They belong to the operator's window and come out above a
-// participant window that stays on top, so that none of them waits unseen below it.
+// Message box, open dialog and colour dialog: the system's own on Windows, but for the message box. They belong to the
+// operator's window and come out above a participant window that stays on top, so that none of them waits unseen below
+// it.
 #pragma once
 
 #include "basis/seams.h"
@@ -40,6 +41,10 @@ class QtColourDialog final : public ColourDialog {
   private:
     const DialogOwner& owner_;
 };
+
+// The window that a dialog belongs to: the settings dialog while it asks for a colour, else the operator's window. Null
+// when there is none.
+[[nodiscard]] QWidget* parent_window(const DialogOwner& owner);
 
 // "label|patterns|label|patterns" with patterns parted by ";", as the toolkit wants it: one text for each pair.
 [[nodiscard]] QStringList name_filters(std::string_view filter);

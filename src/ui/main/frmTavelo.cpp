@@ -221,6 +221,13 @@ void frmTavelo::open_bestand() {
     verwacht_nummer();
 }
 
+void frmTavelo::open_genoemd(std::string_view bestand) {
+    kies_bestand(bediening_, bestand, 0);
+    open_rooster(bediening_, bestand, 0);
+    toon();
+    verwacht_nummer();
+}
+
 // The file of the slot once more, as a click on its button.
 void frmTavelo::heropen() {
     const int slot = programma_.rooster_slot;

@@ -45,6 +45,9 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
 
     void laad() override;
 
+    // A file that the user named in starting the program (a double click): in the first slot, as from the dialog.
+    void open_genoemd(std::string_view bestand);
+
     // Shows what the rules made of the program's value.
     void toon();
     // Only the two displays, after a composition.

@@ -97,6 +97,15 @@ struct FrmTavelo : testing::Test {
     }
 };
 
+TEST_F(FrmTavelo, een_bestand_dat_bij_de_start_genoemd_is_komt_in_het_eerste_rooster) {
+    const std::string bestand = map.write("genoemd.rst", roosterbestand({3, 1}));
+    venster->open_genoemd(bestand);
+    EXPECT_EQ(programma.slots[0].bestand, bestand);
+    EXPECT_EQ(programma.rooster_slot, 0);
+    EXPECT_EQ(programma.grdRooster.rows(), 3);
+    EXPECT_EQ(utf8(venster->windowTitle()), programma.bijschrift);
+}
+
 TEST_F(FrmTavelo, toont_na_het_laden_een_leeg_rooster_onder_zijn_titel) {
     EXPECT_EQ(intros, 1);
     EXPECT_TRUE(venster->isVisible());

@@ -11,8 +11,13 @@
 
 namespace tavelo {
 
+namespace {
+
+constexpr COLORREF all_colours = 0xFFFFFF; // white, and the bits that a colour has
+
+} // namespace
+
 std::optional<std::int32_t> QtColourDialog::ask(std::int32_t preselected) {
-    constexpr COLORREF all_colours = 0xFFFFFF;
     // What the user puts together himself, for as long as the program runs.
     static std::array<COLORREF, 16> own_colours = [] {
         std::array<COLORREF, 16> white{};

@@ -31,7 +31,7 @@ struct Bediening {
     Vertoning deelnemer_venster; // the participant window, while it is open
 
     // For the operator alone; none of it reaches a display.
-    OpMonitor op_monitor{};
+    OpMonitor op_monitor = OpMonitor(); // with {} g++ 12 warns, without ground, that it is not initialized
     Monitorvenster monitorvenster = Monitorvenster::gewoon; // while the participant window is open
     Dagverslag dagverslag{};
 };

@@ -9,7 +9,7 @@ import shutil
 from pathlib import Path
 
 from demo import BIJSCHRIFT_DEELNEMER, EXAMPLES, EXCEL_SLEUTELS, UITERLIJK, Bediening, letterlijk, schrijf_instellingen
-from scherm import Scherm, wacht_tot
+from scherm import Scherm, TweeSchermen, wacht_tot
 
 BEELDEN = EXAMPLES.parent / "docs" / "beelden"
 WEDSTRIJD = Path("/tmp/wedstrijd")  # its path stands in the title bar of the pictures
@@ -50,6 +50,23 @@ def monitor(programma, map_):
         scherm.rustig_beeld().bewaar(map_ / "monitor.png", 256)
 
 
+def twee_schermen(programma, map_):
+    """The operator's screen and the public's beside each other."""
+    with TweeSchermen(wand=(1280, 800)) as scherm:
+        scherm.roep("xsetroot", "-solid", "#3f4a56")
+        schrijf_instellingen(scherm, UITERLIJK)
+        bediening = Bediening(scherm, programma)
+        bediening.wacht_op_hoofdvenster()
+        bediening.open(WEDSTRIJD / "springen.rst")
+        scherm.venster(".*springen.*")
+        bediening.typ_nummer(22)
+        venster = bediening.open_monitor()
+        bediening.hoofd.activeer()
+        scherm.toets("F11")
+        wacht_tot(lambda: venster.vlak() == scherm.wand(), "het beeldvullende venster")
+        scherm.rustig_beeld().bewaar(map_ / "twee_schermen.png", 256, schaal=62.5)
+
+
 def met_titelbalk(venster):
     links, boven, breedte, hoogte = venster.vlak()
     titelbalk, rand = 20, 1
@@ -67,6 +84,7 @@ def main():
         shutil.copy(EXAMPLES / "springen.rst", WEDSTRIJD)
         operateur(keuze.program.resolve(), keuze.output)
         monitor(keuze.program.resolve(), keuze.output)
+        twee_schermen(keuze.program.resolve(), keuze.output)
     finally:
         shutil.rmtree(WEDSTRIJD)
 

@@ -87,8 +87,11 @@ void lees_roosterbestand(Bediening& bediening, int slot) {
     const std::expected<Roosterbestand, GeenRooster> bestand = gelezen_bestand(p);
     if (!bestand) {
         noteer_lezing(bediening, bestand.error());
-        // A file that cannot be read keeps its slot: on a share it may come back.
-        if (is_geen_rooster(bestand.error())) slot_van(p, slot) = {};
+        // A file that cannot be read keeps its slot and the caption: on a share it may come back.
+        if (is_geen_rooster(bestand.error())) {
+            slot_van(p, slot) = {};
+            p.bijschrift = bijschrift_naamloos;
+        }
         return;
     }
     p.bijschrift = lees_rooster(*bestand, p.rooster_bestand,

@@ -695,6 +695,7 @@ TEST_F(FrmTaveloTik, drie_gewijzigde_cellen_hertekenen_drie_cellen_en_laten_lijs
     QRegion drie_cellen;
     for (const int rij : {20, 21, 23})
         drie_cellen += grdRooster().visualRect(grdRooster().model()->index(rij, kolom_paard));
+    drie_cellen &= grdRooster().viewport()->rect(); // the list may be narrower than its columns
     EXPECT_EQ(kijker.geschilderd, drie_cellen);
     EXPECT_EQ(gemeld.size(), 3);
     EXPECT_EQ(resets.size(), 0);

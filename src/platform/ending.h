@@ -17,8 +17,9 @@ class Ending final : public QObject {
     // or the splash is up; the program's loops then end. SIGTERM, SIGHUP (unless it was ignored from the start), SIGINT
     // and the end of a session lead to it. It may be called when the program has been shut down already.
     //
-    // `last` runs when the process ends by exit(), wherever that is called: the toolkit does so when its display is
-    // gone. It may touch neither windows nor the display.
+    // `last` runs when the process ends by exit(), wherever that is called: the toolkit does so when its X display is
+    // gone. It may touch neither windows nor the display. Without a way in: the toolkit's Wayland plugin leaves by
+    // _exit() when the compositor dies, and no handler runs.
     Ending(std::function<void()> orderly, std::function<void()> last);
     ~Ending() override;
     Ending(const Ending&) = delete;

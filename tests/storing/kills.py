@@ -114,6 +114,7 @@ def main():
           ThreadPoolExecutor(opties.workers) as werkers):
         nieuw = nieuw_na(opties)
         uitkomsten = Counter(werkers.map(een, range(opties.kills)))
+        Loop.ruim_op()
     for uitkomst, aantal in sorted(uitkomsten.items()):
         print(f"{aantal:5} {uitkomst}")
     mis = sum(aantal for uitkomst, aantal in uitkomsten.items() if uitkomst.startswith("MIS"))

@@ -36,7 +36,9 @@ def eis(voorwaarde, anders):
 
 
 class Loop:
-    """One run of the program without a display, in a folder of its own."""
+    """Runs of the program without a display, in a folder of their own."""
+
+    begonnen = []  # every process, each with a group of its own
 
     def __init__(self, opties, inhoud=OUD):
         self.opties = opties
@@ -57,7 +59,16 @@ class Loop:
         }
         opdracht = [*vooraf, "env", f"LD_PRELOAD={self.opties.storing}", str(self.opties.program)]
         self.proces = subprocess.Popen(opdracht, env=omgeving, cwd=self.thuis, stdout=subprocess.DEVNULL,
-                                       stderr=subprocess.DEVNULL)
+                                       stderr=subprocess.DEVNULL, start_new_session=True)
+        self.begonnen.append(self.proces)
+
+    @classmethod
+    def ruim_op(cls):
+        """Ends what a failed test left running."""
+        for proces in cls.begonnen:
+            if proces.poll() is None:
+                os.killpg(proces.pid, signal.SIGKILL)
+                proces.wait()
 
     def start(self, storing="", vooraf=()):
         """Returns when the program has asked for its settings."""
@@ -337,6 +348,7 @@ def main():
     with (tempfile.TemporaryDirectory(prefix="tavelo-") as opties.werkmap,
           ThreadPoolExecutor(4) as werkers):  # they wait more than they work
         uitkomsten = list(werkers.map(lambda proef: uitkomst_van(proef, opties), gekozen))
+        Loop.ruim_op()
     for proef, uitkomst in zip(gekozen, uitkomsten):
         print("MIS " if uitkomst else "goed", proef.__name__, uitkomst or "")
     return 1 if any(uitkomsten) or not gekozen else 0

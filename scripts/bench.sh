@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 
 install_missing "${packages_run[@]}" "${packages_demo[@]}" "${packages_bench[@]}"
 cmake --preset release -DTAVELO_TESTS=OFF -DTAVELO_BENCH=ON
-cmake --build build/release --target bench tavelo tavelo-dump
+cmake --build build/release --target bench bench_workbooks tavelo tavelo-dump
 
 benches=("$@")
 [ "${#benches[@]}" -gt 0 ] || mapfile -t benches < <(basename --multiple --suffix=.cpp bench/bench_*.cpp)

@@ -52,6 +52,7 @@ QVariant RoosterModel::data(const QModelIndex& index, int role) const {
 }
 
 void RoosterModel::merk(int row) {
+    if (row == gemerkt_) return; // a re-read asks again: nothing to paint
     for (const int changed : {std::exchange(gemerkt_, row), row})
         if (changed >= titelrij && changed <= rows_)
             Q_EMIT dataChanged(index(changed - titelrij, 0), index(changed - titelrij, columnCount() - 1));

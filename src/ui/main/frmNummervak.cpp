@@ -35,8 +35,8 @@ std::optional<Blader> stap_van(const QKeyEvent& event) {
 
 bool is_cijfer(const QKeyEvent& event) {
     const QString tekst = event.text();
-    return !(event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
-           tekst.size() == 1 && tekst[0] >= '0' && tekst[0] <= '9';
+    return !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) && tekst.size() == 1 &&
+           tekst[0] >= '0' && tekst[0] <= '9';
 }
 
 Nummervak::Nummervak(const Grid& rooster, std::function<void(Blader richting)> blader, QWidget* ouder)

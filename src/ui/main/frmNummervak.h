@@ -29,7 +29,7 @@ class Nummervak final : public QLineEdit {
     bool klik_bracht_focus_ = false; // the button of the mouse is still down
 };
 
-// A key that types one of the digits 0 to 9.
+// A key that types one of the digits 0 to 9, with Shift on a Belgian or French keyboard.
 [[nodiscard]] bool is_cijfer(const QKeyEvent& event);
 
 } // namespace tavelo

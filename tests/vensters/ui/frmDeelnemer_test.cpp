@@ -115,6 +115,10 @@ TEST_F(FrmDeelnemer, f11_met_een_andere_toets_en_andere_toetsen_doen_niets) {
 
 TEST_F(FrmDeelnemer, een_klik_op_het_beeldvullende_venster_geeft_de_toetsen_terug_aan_het_nummervak) {
     nummervak.setFocusPolicy(Qt::StrongFocus);
+    QWidget lijst(&hoofdvenster); // had the keys last
+    lijst.setFocusPolicy(Qt::StrongFocus);
+    lijst.show();
+    lijst.setFocus();
     open();
     venster->activateWindow();
     QTest::mouseClick(venster, Qt::LeftButton);

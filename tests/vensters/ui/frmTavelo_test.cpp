@@ -270,6 +270,10 @@ TEST_F(FrmTavelo, een_cijfer_in_de_lijst_begint_een_nieuw_nummer) {
     EXPECT_EQ(txtINR().text(), "1");
     QTest::keyClick(&txtINR(), Qt::Key_6);
     EXPECT_EQ(programma.huidige_regel, 3);
+    grdRooster().setFocus();
+    QTest::sendKeyEvent(QTest::Press, &grdRooster(), Qt::Key_section, QStringLiteral("6"), Qt::ShiftModifier);
+    EXPECT_EQ(txtINR().text(), "6");
+    EXPECT_EQ(programma.huidige_regel, 2);
 }
 
 TEST_F(FrmTavelo, een_cijfer_in_de_lijst_kiest_zijn_nummer_ook_als_het_al_in_het_vak_staat) {
@@ -661,6 +665,7 @@ TEST_F(FrmTaveloTik, een_gewijzigd_bestand_wijzigt_de_lijst_zonder_wat_getypt_is
 }
 
 TEST_F(FrmTaveloTik, drie_gewijzigde_cellen_hertekenen_drie_cellen_en_laten_lijst_en_monitor_staan) {
+    venster->resize(1300, 760); // wide enough for all columns
     std::vector<int> nummers(60);
     std::iota(nummers.begin(), nummers.end(), 1);
     herschrijf(nummers);

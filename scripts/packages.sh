@@ -16,9 +16,10 @@ packages_demo=(
     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
 )
 
-# To test: everything above and these, among them a compositor to fade the splash in.
+# To test: everything above and these, among them a compositor to fade the splash in and the accessibility bus.
 packages_test=(
-    libgtest-dev libbenchmark-dev clang-format-14 xcompmgr
+    libgtest-dev libbenchmark-dev clang-format-14 clang-tidy-16 shellcheck xcompmgr
+    at-spi2-core gir1.2-atspi-2.0 python3-gi dbus-daemon
 )
 
 # To make the Debian package and have it checked (./package).

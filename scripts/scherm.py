@@ -169,7 +169,7 @@ class Scherm:
         self.x11 = X11(self.omgeving["DISPLAY"])
         self._taken.callback(self.x11.sluit)
         self._richt_in()
-        self._start_achtergrond("openbox", "--sm-disable")
+        self.start_achtergrond("openbox", "--sm-disable")
         wacht_tot(lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.roep("xprop", "-root"), "de vensterbeheerder", 30)
         # A pointer over a control colours it; between clicks it rests in a corner.
         self.muis_weg()
@@ -195,7 +195,7 @@ class Scherm:
             raise Anders(f"{opdracht[0]} start niet")
         return f":{nummer}"
 
-    def _start_achtergrond(self, *opdracht):
+    def start_achtergrond(self, *opdracht):
         proces = subprocess.Popen(opdracht, env=self.omgeving, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self._taken.callback(self._stop, proces)
         return proces

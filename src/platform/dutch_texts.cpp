@@ -105,6 +105,8 @@ constexpr std::array texts = std::to_array<Text>({
     {"Page right", "Bladzijde naar rechts"},
     {"Scroll up", "Omhoog schuiven"},
     {"Scroll down", "Omlaag schuiven"},
+    {"Scroll Left", "Naar links schuiven"}, // of tabs
+    {"Scroll Right", "Naar rechts schuiven"},
     {"Scroll left", "Naar links schuiven"},
     {"Scroll right", "Naar rechts schuiven"},
 });

@@ -322,7 +322,7 @@ class Openingsbeeld(unittest.TestCase):
         self.assertGreater(time.monotonic() - begin, 2.5)  # 3 less the time in which it was noticed
 
     def test_wordt_stap_voor_stap_zichtbaar(self):
-        self.scherm._start_achtergrond("xcompmgr")
+        self.scherm.start_achtergrond("xcompmgr")
         kijker = X11(self.scherm.omgeving["DISPLAY"])
         self.addCleanup(kijker.sluit)
         wacht_tot(lambda: kijker.eigenaar("_NET_WM_CM_S0"), "de doorzichtige vensters")

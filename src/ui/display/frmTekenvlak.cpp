@@ -3,6 +3,7 @@
 #include "platform/fonts.h"
 #include "platform/qt_text.h"
 
+#include <QAccessibleWidget>
 #include <QGlyphRun>
 #include <QPaintEvent>
 #include <QPainter>
@@ -157,11 +158,44 @@ void TekenvlakWidget::paintEvent(QPaintEvent* event) {
     }
 }
 
+namespace {
+
+class Plaatje final : public QAccessibleWidget {
+  public:
+    explicit Plaatje(VertoningWidget& vertoning)
+        : QAccessibleWidget(&vertoning, QAccessible::Graphic), vertoning_(vertoning) {}
+    [[nodiscard]] QString text(QAccessible::Text soort) const override {
+        return soort == QAccessible::Description ? vertoning_.voorgelezen() : QAccessibleWidget::text(soort);
+    }
+
+  private:
+    const VertoningWidget& vertoning_;
+};
+
+QAccessibleInterface* als_plaatje(const QString& /*soort*/, QObject* object) {
+    auto* const vertoning = dynamic_cast<VertoningWidget*>(object);
+    return vertoning ? new Plaatje(*vertoning) : nullptr;
+}
+
+} // namespace
+
 VertoningWidget::VertoningWidget(Vertoning& vertoning, QWidget* parent)
     : TekenvlakWidget(vertoning.picDeelnemer, parent), vertoning_(vertoning), picRubriek_(vertoning.picRubriek, this) {
     setObjectName(QStringLiteral("picDeelnemer"));
     picRubriek_.setObjectName(QStringLiteral("picRubriek"));
     picRubriek_.hide();
+    QAccessible::installFactory(als_plaatje); // once, however often it is asked
+}
+
+QString VertoningWidget::voorgelezen() const {
+    QStringList teksten;
+    const auto neem = [&](const Tekenvlak& vlak) {
+        for (const GeplaatsteTekst& regel : vlak.regels())
+            if (!regel.tekst.empty()) teksten.append(line_of_text(regel.tekst));
+    };
+    if (vertoning_.picRubriek.zichtbaar) neem(vertoning_.picRubriek);
+    neem(vertoning_.picDeelnemer);
+    return teksten.join(QStringLiteral(". "));
 }
 
 void VertoningWidget::neem_maat() {
@@ -179,6 +213,10 @@ void VertoningWidget::ververs() {
     picRubriek_.setVisible(band.zichtbaar);
     picRubriek_.ververs();
     TekenvlakWidget::ververs();
+    if (QAccessible::isActive()) {
+        QAccessibleEvent gewijzigd(this, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&gewijzigd);
+    }
 }
 
 } // namespace tavelo

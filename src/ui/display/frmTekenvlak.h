@@ -28,7 +28,8 @@ class TekenvlakWidget : public QWidget {
     std::vector<QRect> plaatsen_; // of its texts, with all their ink
 };
 
-// Both areas: itself `picDeelnemer`, with `picRubriek` as its child over the top.
+// Both areas, to a screen reader one picture with its texts: itself `picDeelnemer`, with `picRubriek` as its child over
+// the top.
 class VertoningWidget final : public TekenvlakWidget {
   public:
     VertoningWidget(Vertoning& vertoning, QWidget* parent);
@@ -37,6 +38,8 @@ class VertoningWidget final : public TekenvlakWidget {
     void neem_maat();
     // After a composition.
     void ververs();
+    // All texts, the heading first, for who cannot see them.
+    [[nodiscard]] QString voorgelezen() const;
 
   private:
     Vertoning& vertoning_;

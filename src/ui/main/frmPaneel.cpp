@@ -203,6 +203,7 @@ void Paneel::toon(const Programma& programma) {
         const std::string& bestand = programma.slots[i].bestand;
         btnRooster_[i]->setToolTip(bestand.empty() ? QStringLiteral("Nog geen bestand: klik om te openen")
                                                    : plain_tooltip(qt_text(bestand)));
+        btnRooster_[i]->setAccessibleDescription(bestand.empty() ? QString() : qt_text(bestand));
     }
     if (const QString tekst = qt_text(programma.txtINR); txtINR_->text() != tekst) {
         const QScopedValueRollback schrijft(schrijft_, true);

@@ -4,4 +4,4 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 find . \( -path ./build -o -path ./.git \) -prune -o -type f -size -64k -print0 |
     xargs -0 awk 'FNR == 1 && /^#!.*sh$/ { print FILENAME } { nextfile }' |
-    xargs shellcheck --external-sources scripts/packages.sh
+    xargs shellcheck --external-sources --source-path=SCRIPTDIR:. scripts/packages.sh

@@ -153,18 +153,15 @@ void schrijf_teksten(JsonWriter& json, const std::vector<std::string>& teksten) 
     });
 }
 
-// What a helpdesk asks for first: which file it was taken for, what was shown, and what was left out. A record that is
-// read from more than one line has no line of its own.
+// What a helpdesk asks for first: which file it was taken for, what was shown, and what was left out. What is not of
+// one line, as a whole file or what a class and its combinations give together, has no number.
 void schrijf_log(std::ostream& uit, const std::string& bijschrift, const Getuige& getuige) {
     uit << bijschrift << '\n';
     for (const std::string& bericht : getuige.berichten)
         uit << "melding: " << bericht << '\n';
     for (const Getuige::Overgeslagen& o : getuige.overgeslagen) {
-        if (o.regel != 0)
-            uit << "regel " << o.regel;
-        else
-            uit << "rubriek";
-        uit << ", " << o.sleutel << ": " << o.reden << '\n';
+        if (o.regel != 0) uit << "regel " << o.regel << ", ";
+        uit << o.sleutel << ": " << o.reden << '\n';
     }
     if (getuige.overgeslagen.empty()) uit << "Er is niets overgeslagen.\n";
 }

@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QTextLayout>
 #include <QToolTip>
 
 namespace tavelo {
@@ -13,20 +14,47 @@ QString plain_tooltip(const QString& text) {
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
+QRect ElidedLabel::place() const { return contentsRect().adjusted(margin(), 0, -margin(), 0); }
+
+ElidedLabel::Shown ElidedLabel::shown() const {
+    const int width = place().width();
+    const int lines = height() / fontMetrics().lineSpacing();
+    if (lines < 2) {
+        const QString line = fontMetrics().elidedText(text(), Qt::ElideRight, width);
+        return {line, line != text()};
+    }
+    QTextLayout layout(text(), font());
+    layout.beginLayout();
+    QStringList parts;
+    Shown result;
+    while (true) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid()) break;
+        line.setLineWidth(width);
+        if (parts.size() + 1 == lines) {
+            const QString rest = text().mid(line.textStart());
+            parts += fontMetrics().elidedText(rest, Qt::ElideRight, width);
+            result.cut = parts.back() != rest;
+            break;
+        }
+        parts += text().mid(line.textStart(), line.textLength());
+    }
+    layout.endLayout();
+    result.lines = parts.join(QLatin1Char('\n'));
+    return result;
+}
+
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     if (autoFillBackground()) painter.fillRect(rect(), palette().window());
-    const QRect place = contentsRect().adjusted(margin(), 0, -margin(), 0);
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, place.width());
-    style()->drawItemText(&painter, place, static_cast<int>(alignment()), palette(), isEnabled(), shown,
+    style()->drawItemText(&painter, place(), static_cast<int>(alignment()), palette(), isEnabled(), shown().lines,
                           foregroundRole());
 }
 
 bool ElidedLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QLabel::event(event);
-    const bool cut = fontMetrics().horizontalAdvance(text()) > contentsRect().width() - 2 * margin();
-    const QPoint place = static_cast<QHelpEvent*>(event)->globalPos();
-    QToolTip::showText(place, cut ? plain_tooltip(text()) : toolTip(), this);
+    const QPoint where = static_cast<QHelpEvent*>(event)->globalPos();
+    QToolTip::showText(where, shown().cut ? plain_tooltip(text()) : toolTip(), this);
     return true;
 }
 

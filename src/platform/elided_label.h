@@ -1,5 +1,5 @@
-// A label that ends a text that does not fit in "…" and shows the whole of it as tooltip, in the place of its own.
-// Never rich text: what it shows comes out of files.
+// A label that breaks a text over as many lines as it is high for, ends what does not fit in "…" and shows the whole of
+// it as tooltip, in the place of its own. Never rich text: what it shows comes out of files.
 #pragma once
 
 #include <QLabel>
@@ -13,6 +13,14 @@ class ElidedLabel final : public QLabel {
   protected:
     void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
+
+  private:
+    struct Shown {
+        QString lines; // separated by line feeds
+        bool cut = false;
+    };
+    [[nodiscard]] QRect place() const;
+    [[nodiscard]] Shown shown() const;
 };
 
 // A tooltip that shows the text as it stands, whatever signs are in it.

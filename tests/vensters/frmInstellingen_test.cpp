@@ -664,5 +664,32 @@ TEST(FrmInstellingenMetHoofdvenster, voorbeeld_en_deelnemersvenster_volgen_elke_
     EXPECT_EQ(eerste_beeldpunt(monitor), QColor(Qt::white));
 }
 
+TEST_F(FrmInstellingen, een_kolomlijst_heet_naar_haar_veld_en_toont_de_eerste_gevulde_cel) {
+    Grid& werkblad = proef.programma.grdExcel;
+    werkblad.set_columns(3);
+    werkblad.set_rows(3);
+    werkblad.set_text(1, 1, "Elise Dijkgraaf");
+    werkblad.set_text(0, 2, "Moor");
+    instellingen().col_rider_name = "B";
+    open();
+    auto& lijst = vind<QComboBox>("cmbExcel_2");
+    EXPECT_EQ(lijst.accessibleName(), "Ruiter Naam");
+    EXPECT_EQ(vind<QLabel>("lblExcel_2").text(), "Elise Dijkgraaf");
+    EXPECT_EQ(lijst.accessibleDescription(), "Elise Dijkgraaf");
+    lijst.setCurrentText("C");
+    EXPECT_EQ(vind<QLabel>("lblExcel_2").text(), "Moor");
+    lijst.setCurrentText("");
+    EXPECT_EQ(vind<QLabel>("lblExcel_2").text(), "");
+}
+
+TEST_F(FrmInstellingen, een_lettertype_dat_hier_ontbreekt_staat_niet_in_het_grijs_van_wat_uit_is) {
+    instellingen().fontname = "Bestaat Nergens";
+    open();
+    const QPalette& kleuren_van_lijst = vind<QComboBox>("CmbFontName").palette();
+    EXPECT_EQ(kleuren_van_lijst.color(QPalette::PlaceholderText), kleuren_van_lijst.color(QPalette::ButtonText));
+    EXPECT_NE(kleuren_van_lijst.color(QPalette::PlaceholderText),
+              kleuren_van_lijst.color(QPalette::Disabled, QPalette::ButtonText));
+}
+
 } // namespace
 } // namespace tavelo

@@ -11,6 +11,9 @@ namespace tavelo {
 
 namespace {
 
+constexpr int onder = 6;         // below the last line, in pixels
+constexpr int meeste_regels = 3; // for one detail
+
 struct Ontwerp {
     const char* naam;
     const char* kop;
@@ -34,27 +37,43 @@ void toon_tekst(QLabel& label, const QString& kop, std::string_view tekst) {
 
 RoosterDetails::RoosterDetails(QWidget* ouder) : QGroupBox(QStringLiteral("Rooster"), ouder) {
     setObjectName(QStringLiteral("frameRoosterinstellingen"));
-    const int regel = fontMetrics().height() + 3;
-    const int boven = fontMetrics().height() + 6; // below the title of the frame
     int kopbreedte = 0;
     for (const Ontwerp& o : ontwerp)
         kopbreedte = std::max(kopbreedte, fontMetrics().horizontalAdvance(QString::fromUtf8(o.kop) + ':'));
     label_links_ = twips(marge + kopbreedte + marge);
-    int y = boven;
     for (const Ontwerp& o : ontwerp) {
         auto* kop = new QLabel(QString::fromUtf8(o.kop) + ':', this);
         kop->setForegroundRole(QPalette::PlaceholderText);
-        kop->setGeometry(marge, y, kopbreedte, regel);
+        kop->setAlignment(Qt::AlignTop);
+        kop->resize(kopbreedte, 0);
         auto* label = new ElidedLabel(this);
         label->setObjectName(QString::fromUtf8(o.naam));
-        label->setGeometry(pixels(label_links_), y, 100, regel);
-        details_.push_back({label, QString::fromUtf8(o.kop), o.tekst});
-        y += regel;
+        label->setAlignment(Qt::AlignTop);
+        details_.push_back({kop, label, QString::fromUtf8(o.kop), o.tekst});
     }
     QFont vet = font();
     vet.setBold(true);
     details_.front().label->setFont(vet);
-    resize(100, y + 6);
+    resize(100, kleinste_hoogte());
+    zet_hoogte(height());
+}
+
+int RoosterDetails::regelhoogte() const { return fontMetrics().lineSpacing() + 3; }
+int RoosterDetails::titelhoogte() const { return fontMetrics().height() + 10; }
+
+int RoosterDetails::kleinste_hoogte() const {
+    return titelhoogte() + static_cast<int>(details_.size()) * regelhoogte() + onder;
+}
+
+void RoosterDetails::zet_hoogte(int hoogte) {
+    const int voor_een = (hoogte - titelhoogte() - onder) / static_cast<int>(details_.size());
+    const int stap = regelhoogte() * std::clamp(voor_een / regelhoogte(), 1, meeste_regels);
+    int y = titelhoogte();
+    for (const Detail& detail : details_) {
+        detail.koplabel->setGeometry(marge, y, detail.koplabel->width(), stap);
+        detail.label->setGeometry(pixels(label_links_), y, detail.label->width(), stap);
+        y += stap;
+    }
 }
 
 void RoosterDetails::toon(const RubriekLabels& labels) {

@@ -27,13 +27,20 @@ class RoosterDetails final : public QGroupBox {
     // Of the labels inside, in twips: their left, and their width at the present size of the frame.
     [[nodiscard]] int label_links() const { return label_links_; }
     void zet_labelbreedte(int breedte);
+    // In pixels: what the details need, and a height to spread them over, each on several lines where there is room.
+    [[nodiscard]] int kleinste_hoogte() const;
+    void zet_hoogte(int hoogte);
 
   private:
     struct Detail {
+        QLabel* koplabel;
         ElidedLabel* label;
         QString kop;
         std::string RubriekLabels::*tekst;
     };
+    [[nodiscard]] int regelhoogte() const;
+    [[nodiscard]] int titelhoogte() const;
+
     std::vector<Detail> details_;
     int label_links_ = 0;
 };

@@ -35,6 +35,7 @@ StatusBalk::StatusBalk(std::function<void()> toon_wijzigingen, std::function<voi
     setSizeGripEnabled(false);
     setFixedHeight(fontMetrics().height() + 12);
     setMinimumWidth(1);
+    setContentsMargins(6, 0, 6, 0);
     setCursor(Qt::PointingHandCursor);
     lblOpMonitor_ = maak_deel("lblOpMonitor", 0);
     lblVenster_ = maak_deel("lblVenster", 0);

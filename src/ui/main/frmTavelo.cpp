@@ -127,19 +127,39 @@ void frmTavelo::bouw_bediening() {
 }
 
 // The places before the resize rules move them.
-void frmTavelo::ontwerp_plaatsen(Ruimte ruimte) {
-    getekend_ = ruimte;
-    paneel_->zet_ruimte(ruimte);
+void frmTavelo::ontwerp_plaatsen(QSize binnen) {
+    const Ruimte ruimte = ruimte_voor(binnen);
+    if (std::exchange(getekend_, ruimte) != ruimte) paneel_->zet_ruimte(ruimte);
     const int breedte = pixels(gridbreedte(ruimte));
     const int nodig = paneel_->sizeHint().width();
     const int paneelbreedte = ruimte == Ruimte::ruim ? std::max(breedte, nodig) : nodig;
-    const int kop = std::max(frameRoosterinstellingen_->height(), paneelhoogte + marge + fontMetrics().height() + 8);
-    paneel_->setGeometry(marge, marge, paneelbreedte, paneelhoogte);
     const int omschrijving = marge + paneelhoogte + marge;
-    lblRoosterOmschrijving_->setGeometry(marge, omschrijving, breedte, marge + kop - omschrijving);
-    ontwerp_.grdRooster = twipsvlak({marge, marge + kop + marge, breedte, 100});
-    ontwerp_.frameRoosterinstellingen = twipsvlak({marge + paneelbreedte + marge, marge, 100, kop});
-    ontwerp_.picDeelnemer = twipsvlak({marge + breedte + marge, marge + kop + marge, 100, 100});
+    const int regel = fontMetrics().height() + 8;
+    paneel_->setGeometry(marge, marge, paneelbreedte, paneelhoogte);
+    lblRoosterOmschrijving_->setGeometry(marge, omschrijving, breedte, regel);
+    ontwerp_.grdRooster = twipsvlak({marge, omschrijving + regel + marge, breedte, 100});
+
+    // The preview has the shape of the wall in the window as it opens; in a smaller one as it is drawn for it.
+    const auto in_twips = [](QSize maat) { return Maat{twips(maat.width()), twips(maat.height())}; };
+    const QSize bedoeld = ruimte_voor(openingsmaat_) == ruimte ? openingsmaat_ : binnen;
+    const int kader = frameRoosterinstellingen_->kleinste_hoogte();
+    const Plek plek = plek_voorbeeld(in_twips(bedoeld), in_twips(binnen),
+                                     {twips(marge + breedte + marge), twips(marge + kader + marge)}, muur());
+    ontwerp_.picDeelnemer = twipsvlak({pixels(plek.links), pixels(plek.boven), 100, 100});
+    const int tot_voorbeeld = std::max(pixels(plek.boven) - 2 * marge, kader);
+    ontwerp_.frameRoosterinstellingen = twipsvlak({marge + paneelbreedte + marge, marge, 100, tot_voorbeeld});
+    frameRoosterinstellingen_->zet_hoogte(tot_voorbeeld);
+}
+
+Ruimte frmTavelo::ruimte_voor(QSize binnen) const {
+    return kies_ruimte(twips(binnen.width()), twips(paneel_->breedte_in_een_rij()));
+}
+
+// The screen that the public sees; without one the shape of nearly all of them.
+Maat frmTavelo::muur() const {
+    const std::vector<Scherm> schermen = aanwezige_schermen();
+    const auto scherm = publieksscherm(schermen, als_schermvlak(frameGeometry()));
+    return scherm ? Maat{schermen[*scherm].vlak.breedte, schermen[*scherm].vlak.hoogte} : Maat{16, 9};
 }
 
 void frmTavelo::toon_intro() { omgeving_.toon_intro(); }
@@ -147,8 +167,15 @@ void frmTavelo::toon_intro() { omgeving_.toon_intro(); }
 void frmTavelo::toon_venster() {
     if (const QScreen* scherm = screen()) {
         const QRect vrij = scherm->availableGeometry();
-        resize(venstermaat.boundedTo(vrij.size() * 0.96));
-        move(vrij.topLeft() + QPoint(marge, marge)); // leaves room for a participant window on the same screen
+        const bool alleen = QGuiApplication::screens().size() == 1;
+        // With a screen for the public all of the operator's is used; on a single one the participant window needs
+        // room.
+        const QSize titelbalk(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+        const QSize maat = alleen ? venstermaat.boundedTo(vrij.size() * 0.96) : vrij.size() - titelbalk;
+        openingsmaat_ = maat - QSize(0, menuBar()->sizeHint().height() + status_->height());
+        resize(alleen ? maat : venstermaat.boundedTo(vrij.size() * 0.96));
+        move(vrij.topLeft() + QPoint(marge, marge));
+        if (!alleen) setWindowState(Qt::WindowMaximized);
     }
     toon();
     show();
@@ -275,9 +302,7 @@ void frmTavelo::toon_herlezing() {
 void frmTavelo::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     const QSize binnen = vlak_->size();
-    if (const Ruimte ruimte = kies_ruimte(twips(binnen.width()), twips(paneel_->breedte_in_een_rij()));
-        getekend_ != ruimte)
-        ontwerp_plaatsen(ruimte);
+    ontwerp_plaatsen(binnen);
     const Plaatsen plaatsen =
         deel_in({twips(binnen.width()), twips(binnen.height())}, ontwerp_, frameRoosterinstellingen_->label_links());
     grdRooster_->setGeometry(pixelvlak(plaatsen.grdRooster));

@@ -68,7 +68,9 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     void muiswiel_unhook() override;
 
     void bouw_bediening();
-    void ontwerp_plaatsen(Ruimte ruimte);
+    void ontwerp_plaatsen(QSize binnen);
+    [[nodiscard]] Ruimte ruimte_voor(QSize binnen) const;
+    [[nodiscard]] Maat muur() const;
 
     void verwacht_nummer();
     void kies_nummer(const QString& tekst);
@@ -102,7 +104,8 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     QTimer groen_{this}; // runs while the description still has to be seen in green
 
     Plaatsen ontwerp_;
-    std::optional<Ruimte> getekend_; // whose places these are
+    std::optional<Ruimte> getekend_; // for which the panel was built
+    QSize openingsmaat_;             // the inside of the window as it opens
     int wieldraai_ = 0;              // eighths of a degree turned since the last notch
     bool afgesloten_ = false;
 };

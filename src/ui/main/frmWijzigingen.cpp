@@ -3,7 +3,6 @@
 #include "platform/icons.h"
 #include "platform/qt_text.h"
 
-#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -37,7 +36,8 @@ int WijzigingenModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant WijzigingenModel::data(const QModelIndex& index, int role) const {
-    if (index.row() >= static_cast<int>(dagverslag_.rijen().size())) return {}; // dropped as the oldest
+    if (!index.isValid() || index.row() >= static_cast<int>(dagverslag_.rijen().size()))
+        return {}; // dropped as the oldest
     const VerslagRij& rij = rij_van(dagverslag_, index.row());
     const auto kolom = static_cast<std::size_t>(index.column());
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return line_of_text(rij.teksten[kolom]);
@@ -80,12 +80,7 @@ frmWijzigingen::frmWijzigingen(const Dagverslag& dagverslag, QWidget& eigenaar)
     tabel_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     tabel_.verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     tabel_.horizontalHeader()->setHighlightSections(false);
-    // The table's own copying takes one cell; a shortcut comes before it.
-    auto* kopieren = new QAction(QStringLiteral("&Kopiëren"), this);
-    kopieren->setShortcut(QKeySequence::Copy);
-    kopieren->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(kopieren, &QAction::triggered, this, &frmWijzigingen::kopieer);
-    addAction(kopieren);
+    tabel_.installEventFilter(this);
     constexpr std::array breedten = {52, 88, 44, 48, 160, 40, 112, 112, 112, 44, 44};
     for (std::size_t kolom = 0; kolom < breedten.size(); ++kolom)
         tabel_.setColumnWidth(static_cast<int>(kolom), breedten[kolom]);
@@ -102,6 +97,14 @@ void frmWijzigingen::open(const QRect& plaats) {
 
 void frmWijzigingen::ververs() {
     if (std::exchange(getoond_, dagverslag_.herlezingen()) != dagverslag_.herlezingen()) model_.ververs();
+}
+
+// The table's own copying takes one cell.
+bool frmWijzigingen::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
+        return QWidget::eventFilter(receiver, event);
+    kopieer();
+    return true;
 }
 
 void frmWijzigingen::keyPressEvent(QKeyEvent* event) {

@@ -34,6 +34,7 @@ class frmWijzigingen final : public QWidget {
     void ververs();
 
   protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override; // Esc and F6 close it
 
   private:

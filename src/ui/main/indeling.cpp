@@ -52,4 +52,35 @@ Plaatsen deel_in(Maat binnenmaat, const Plaatsen& ontwerp, int label_links) {
     return plaatsen;
 }
 
+namespace {
+
+constexpr Maat kleinste_voorbeeld{2400, 1350};
+
+// Of the preview that the rules of resizing make at that place.
+Maat maat_voorbeeld(Maat binnenmaat, Plek plek) {
+    return {std::max(binnenmaat.breedte, kleinste_indeling.breedte) - plek.links - marge,
+            std::max(binnenmaat.hoogte, kleinste_indeling.hoogte) - plek.boven - marge};
+}
+
+// What is left over stands above a preview that is too tall, and left of one that is too wide.
+Plek plek_in_vorm(Maat ruimte, Plek uiterste, Maat muur) {
+    const auto verhoudelijk = [](int lengte, int teller, int noemer) {
+        return static_cast<int>(1LL * lengte * teller / noemer);
+    };
+    const int hoogte = verhoudelijk(ruimte.breedte, muur.hoogte, muur.breedte);
+    if (hoogte <= ruimte.hoogte) return {uiterste.links, uiterste.boven + ruimte.hoogte - hoogte};
+    return {uiterste.links + ruimte.breedte - verhoudelijk(ruimte.hoogte, muur.breedte, muur.hoogte), uiterste.boven};
+}
+
+} // namespace
+
+Plek plek_voorbeeld(Maat bedoeld, Maat binnenmaat, Plek uiterste, Maat muur) {
+    const Maat ruimte = maat_voorbeeld(bedoeld, uiterste);
+    if (ruimte.breedte <= 0 || ruimte.hoogte <= 0 || muur.breedte <= 0 || muur.hoogte <= 0) return uiterste;
+    const Plek plek = plek_in_vorm(ruimte, uiterste, muur);
+    const Maat nu = maat_voorbeeld(binnenmaat, plek);
+    const bool past = nu.breedte >= kleinste_voorbeeld.breedte && nu.hoogte >= kleinste_voorbeeld.hoogte;
+    return past ? plek : uiterste;
+}
+
 } // namespace tavelo

@@ -38,4 +38,13 @@ inline constexpr int tussenruimte = 120; // left of the grid, and between it and
 // `ontwerp` holds the places at design time; `label_links` is the left of the labels inside the frame.
 [[nodiscard]] Plaatsen deel_in(Maat binnenmaat, const Plaatsen& ontwerp, int label_links);
 
+// Left and top of the preview at design time, not left of or above `uiterste`, so that in a window of the inner size
+// `bedoeld` it has the shape of the wall `muur`. Where that would leave too little of it in the window as it is now,
+// `binnenmaat`, it stands at `uiterste`.
+struct Plek {
+    int links = 0;
+    int boven = 0;
+};
+[[nodiscard]] Plek plek_voorbeeld(Maat bedoeld, Maat binnenmaat, Plek uiterste, Maat muur);
+
 } // namespace tavelo

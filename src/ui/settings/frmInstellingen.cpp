@@ -1,6 +1,7 @@
 #include "ui/settings/frmInstellingen.h"
 
 #include "platform/codeWindowPos.h"
+#include "platform/elided_label.h"
 #include "platform/qt_text.h"
 #include "ui/settings/frmInstellingen_besturing.h"
 #include "ui/settings/plaats_dialoog.h"
@@ -34,6 +35,7 @@ constexpr int groepsafstand = 12;
 constexpr int regelafstand = 10;
 constexpr int balklengte = 150;
 constexpr int balkhoogte = 20;
+constexpr int inhoudbreedte = 110;
 
 // A page of the dialog. It scrolls on a screen that is too small for it.
 class Bladzijde : public QScrollArea {
@@ -273,12 +275,13 @@ QWidget* frmInstellingen::maak_excel() {
     constexpr int rijen = 6;
     for (int i = 0; i < static_cast<int>(velden.size()); ++i) {
         const QString veld = velden[static_cast<std::size_t>(i)];
-        QWidget* lijst = maak_kolom(i, "Kolom van " + QString(veld).remove('&'));
+        auto* inhoud = new ElidedLabel;
+        QWidget* lijst = maak_kolom(i, QString(veld).remove('&'), *inhoud);
         const int kolom = i / rijen * 3;
         raster->addWidget(label_bij(lijst, veld + ":"), i % rijen, kolom);
         raster->addWidget(lijst, i % rijen, kolom + 1);
+        raster->addWidget(inhoud, i % rijen, kolom + 2);
     }
-    raster->setColumnMinimumWidth(2, groepsafstand * 3);
     raster->setColumnStretch(2, 1);
     raster->setColumnStretch(5, 1);
     indeling->addWidget(groep);
@@ -297,11 +300,14 @@ QWidget* frmInstellingen::maak_lettertype() {
     lijst->setStyleSheet("QComboBox { combobox-popup: 0; }");
     lijst->setMaxVisibleItems(15);
     if (auto* view = qobject_cast<QListView*>(lijst->view())) view->setUniformItemSizes(true);
+    // A name that is not on this computer is a hint; in the toolkit's grey the box would seem to be disabled.
+    QPalette kleuren = lijst->palette();
+    kleuren.setColor(QPalette::PlaceholderText, kleuren.color(QPalette::ButtonText));
+    lijst->setPalette(kleuren);
     lijst->installEventFilter(new WielMetFocus(lijst));
     toegang("CmbFontName") = {[this, lijst](const Getoond& inhoud) {
                                   const auto naam = waarde<std::string>(inhoud);
                                   lijst->setCurrentIndex(naam ? lijst->findText(qt_text(*naam)) : -1);
-                                  // A name that is not in the list is only hinted at, in grey.
                                   lijst->setPlaceholderText(qt_text(bediening_.programma.instellingen.fontname));
                               },
                               [lijst]() -> Getoond {
@@ -385,12 +391,22 @@ QWidget* frmInstellingen::maak_vinkje(const char* naam, const QString& tekst) {
     return vakje;
 }
 
-QWidget* frmInstellingen::maak_kolom(int index, const QString& omschrijving) {
+QWidget* frmInstellingen::maak_kolom(int index, const QString& veld, ElidedLabel& inhoud) {
     auto* lijst = new KolomLijst;
     lijst->setObjectName(QString("cmbExcel_%1").arg(index));
-    lijst->setAccessibleName(omschrijving);
+    lijst->setAccessibleName(veld);
     lijst->installEventFilter(new WielMetFocus(lijst));
-    toegang(lijst->objectName()) = {[lijst](const Getoond& inhoud) { lijst->zet_kolom(waarde<std::string>(inhoud)); },
+    inhoud.setObjectName(QString("lblExcel_%1").arg(index));
+    inhoud.setForegroundRole(QPalette::PlaceholderText);
+    inhoud.setFixedWidth(inhoudbreedte);
+    // What the operator chooses is recognised by what stands in the column.
+    const auto toon_inhoud = [this, lijst, label = &inhoud] {
+        const std::string letter = lijst->kolom().value_or("");
+        label->setText(line_of_text(eerste_gevulde_cel(bediening_.programma.grdExcel, letter)));
+        lijst->setAccessibleDescription(label->text());
+    };
+    connect(lijst, &QComboBox::currentTextChanged, this, toon_inhoud);
+    toegang(lijst->objectName()) = {[lijst](const Getoond& gekozen) { lijst->zet_kolom(waarde<std::string>(gekozen)); },
                                     [lijst] { return getoond(lijst->kolom()); }};
     connect(lijst, &QComboBox::currentTextChanged, this, &frmInstellingen::ververs);
     return lijst;

@@ -15,6 +15,7 @@ class QScrollBar;
 
 namespace tavelo {
 
+class ElidedLabel;
 class KleurKnop;
 
 // One dialog for one opening: it loads when it is made and settles when it closes. `vertoond` is called after every
@@ -65,7 +66,7 @@ class frmInstellingen : public QDialog {
     [[nodiscard]] QGroupBox* maak_keuze(const char* naam, const QString& titel, Qt::Orientation richting,
                                         std::initializer_list<QString> teksten);
     [[nodiscard]] QWidget* maak_vinkje(const char* naam, const QString& tekst);
-    [[nodiscard]] QWidget* maak_kolom(int index, const QString& omschrijving);
+    [[nodiscard]] QWidget* maak_kolom(int index, const QString& veld, ElidedLabel& inhoud);
     [[nodiscard]] Toegang& toegang(const QString& naam);
 
     void laad();

@@ -1,6 +1,7 @@
 #include "ui/settings/instellingen_dialoog.h"
 
 #include "basis/scoped.h"
+#include "basis/text.h"
 #include "excel/codeExcel.h"
 #include "ui/main/huidige_combinatie.h"
 
@@ -168,6 +169,14 @@ void InstellingenDialoog::sluit() {
     neem_over(*programma.instellingen_bij_annuleren, programma.instellingen);
     programma.instellingen_bij_annuleren.reset();
     toon_overal(bediening_);
+}
+
+std::string eerste_gevulde_cel(const Grid& werkblad, std::string_view kolom_letter) {
+    for (int rij = 0; rij < werkblad.rows(); ++rij) {
+        const std::string tekst = excel_kolom(werkblad, rij, kolom_letter);
+        if (const std::string_view gevuld = trimmed(tekst); !gevuld.empty()) return std::string(gevuld);
+    }
+    return "";
 }
 
 } // namespace tavelo

@@ -77,4 +77,8 @@ class InstellingenDialoog {
     Bediening& bediening_;
 };
 
+// The text of the first cell of a column of the copied worksheet that is not blank; "" when there is none, or no
+// letter.
+[[nodiscard]] std::string eerste_gevulde_cel(const Grid& werkblad, std::string_view kolom_letter);
+
 } // namespace tavelo

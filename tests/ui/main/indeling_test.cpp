@@ -95,5 +95,49 @@ TEST(KiesRuimte, met_grote_letters_heeft_de_rij_meer_nodig) {
     EXPECT_EQ(kies_ruimte(1284 * 15, 900 * 15), Ruimte::ruim);
 }
 
+// The preview that the rules of resizing make of that place.
+Rechthoek voorbeeld_op(Plek plek, Maat binnenmaat) {
+    Plaatsen plaatsen = ontwerp();
+    plaatsen.picDeelnemer.links = plek.links;
+    plaatsen.picDeelnemer.boven = plek.boven;
+    return deel_in(binnenmaat, plaatsen, 150).picDeelnemer;
+}
+
+TEST(PlekVoorbeeld, het_voorbeeld_krijgt_de_vorm_van_de_muur) {
+    constexpr Plek uiterste{12000, 2000};
+    for (const Maat muur : {Maat{1920, 1080}, Maat{1024, 768}, Maat{1080, 1920}, Maat{3840, 1080}}) {
+        for (const Maat binnen : {Maat{20490, 10400}, Maat{28800, 15100}, Maat{19200, 10900}}) {
+            const Plek plek = plek_voorbeeld(binnen, binnen, uiterste, muur);
+            const Rechthoek r = voorbeeld_op(plek, binnen);
+            EXPECT_GE(plek.links, uiterste.links);
+            EXPECT_GE(plek.boven, uiterste.boven);
+            // Within one twip of the shape.
+            EXPECT_NEAR(1.0 * r.breedte / r.hoogte, 1.0 * muur.breedte / muur.hoogte,
+                        2.0 * muur.breedte / muur.hoogte / r.hoogte);
+            // And as large as the room allows: one of the two stands where it may not go further.
+            EXPECT_TRUE(plek.links == uiterste.links || plek.boven == uiterste.boven);
+        }
+    }
+}
+
+TEST(PlekVoorbeeld, zonder_ruimte_of_zonder_muur_blijft_hij_op_zijn_uiterste) {
+    constexpr Maat muur{1920, 1080};
+    for (const Plek plek : {plek_voorbeeld({20000, 10000}, {20000, 10000}, {12000, 2000}, {0, 1080}),
+                            plek_voorbeeld({100, 10000}, {100, 10000}, {12000, 2000}, muur)}) {
+        EXPECT_EQ(plek.links, 12000);
+        EXPECT_EQ(plek.boven, 2000);
+    }
+}
+
+TEST(PlekVoorbeeld, in_een_venster_dat_er_te_klein_voor_is_staat_hij_op_zijn_uiterste) {
+    constexpr Maat muur{1920, 1080};
+    constexpr Maat bedoeld{20490, 10400};
+    constexpr Plek uiterste{12000, 2000};
+    const int boven = plek_voorbeeld(bedoeld, bedoeld, uiterste, muur).boven;
+    ASSERT_GT(boven, uiterste.boven);
+    EXPECT_EQ(plek_voorbeeld(bedoeld, {20490, boven + 1350 + 120}, uiterste, muur).boven, boven);
+    EXPECT_EQ(plek_voorbeeld(bedoeld, {20490, boven + 1350 + 119}, uiterste, muur).boven, uiterste.boven);
+}
+
 } // namespace
 } // namespace tavelo

@@ -438,5 +438,18 @@ TEST(InstellingenDialoog, de_weergave_van_het_rooster_hoort_een_keer_van_een_nie
     EXPECT_TRUE(luisteraar.cells.empty() && luisteraar.inserted.empty() && luisteraar.removed.empty());
 }
 
+TEST(EersteGevuldeCel, slaat_lege_cellen_over_en_vraagt_om_een_kolom_die_er_is) {
+    Grid werkblad;
+    werkblad.set_columns(2);
+    werkblad.set_rows(3);
+    werkblad.set_text(1, 1, "  ");
+    werkblad.set_text(2, 1, " Elise ");
+    EXPECT_EQ(eerste_gevulde_cel(werkblad, "B"), "Elise");
+    EXPECT_EQ(eerste_gevulde_cel(werkblad, "A"), "");
+    EXPECT_EQ(eerste_gevulde_cel(werkblad, "C"), "");
+    EXPECT_EQ(eerste_gevulde_cel(werkblad, ""), "");
+    EXPECT_EQ(eerste_gevulde_cel(Grid(), "A"), "");
+}
+
 } // namespace
 } // namespace tavelo

@@ -144,8 +144,9 @@ class X11:
         X.XFlush(self._d)
 
     def gebeurtenissen(self):
-        """What has come in since the last call, as (kind, number of the new window or of the property, window)."""
+        """What has come in since the last call, as (kind, number of the new window or of the property, window, time in
+        milliseconds of the server; for properties)."""
         gebeurtenis = _Gebeurtenis()
         while X.XPending(self._d):
             X.XNextEvent(self._d, byref(gebeurtenis))
-            yield gebeurtenis.type, gebeurtenis.wat, gebeurtenis.window
+            yield gebeurtenis.type, gebeurtenis.wat, gebeurtenis.window, gebeurtenis.rest[0]

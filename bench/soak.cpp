@@ -415,9 +415,13 @@ class Show {
         eis(static_cast<double>(einde_.resident) <= speling * static_cast<double>(begin_.resident),
             "het geheugen is gegroeid");
         eis(einde_.handles <= begin_.handles, "er is een bestand open gebleven");
-        eis(einde_.threads <= begin_.threads, "er is een draad overgebleven");
+        // The thread of the last poll may still be on its way out.
+        eis(QTest::qWaitFor([this] { return in_map("/proc/self/task") <= begin_.threads; }, 60'000),
+            "er is een draad overgebleven");
         eis(einde_.timers <= begin_.timers, "er is een klok overgebleven");
-        eis(einde_.objects <= begin_.objects, "er is een onderdeel van een venster overgebleven");
+        constexpr qsizetype komt_en_gaat =
+            5; // of the toolkit, such as a tooltip; what is left behind comes by twenties
+        eis(einde_.objects <= begin_.objects + komt_en_gaat, "er is een onderdeel van een venster overgebleven");
     }
 
     static std::vector<QImage> beelden(EchtProgramma& van, const std::string& pad, const std::string& nummer) {

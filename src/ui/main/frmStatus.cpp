@@ -71,6 +71,7 @@ void StatusBalk::toon(const Statusregel& regel) {
     toon_deel(*lblBuitenBeeld_, regel.buiten_beeld, palette());
     toon_deel(*lblLijst_, regel.lijst, palette());
     toon_deel(*lblHerlezen_, regel.herlezen, palette());
+    lblVenster_->setMinimumWidth(lblVenster_->sizeHint().width()); // short, and never the one to give way
     btnHeropenen_->setVisible(regel.biedt_heropenen);
 
     QStringList gezegd;

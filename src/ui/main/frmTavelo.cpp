@@ -147,7 +147,9 @@ void frmTavelo::ontwerp_plaatsen(QSize binnen) {
                                      {twips(marge + breedte + marge), twips(marge + kader + marge)}, muur());
     ontwerp_.picDeelnemer = twipsvlak({pixels(plek.links), pixels(plek.boven), 100, 100});
     const int tot_voorbeeld = std::max(pixels(plek.boven) - 2 * marge, kader);
-    ontwerp_.frameRoosterinstellingen = twipsvlak({marge + paneelbreedte + marge, marge, 100, tot_voorbeeld});
+    // Beside the panel and the grid: it reaches below the panel.
+    const int links = marge + std::max(breedte, paneelbreedte) + marge;
+    ontwerp_.frameRoosterinstellingen = twipsvlak({links, marge, 100, tot_voorbeeld});
     frameRoosterinstellingen_->zet_hoogte(tot_voorbeeld);
 }
 

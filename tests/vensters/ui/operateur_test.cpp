@@ -226,6 +226,17 @@ TEST_F(Operateur, de_statusregel_neemt_de_focus_niet_en_verplaatst_niets) {
         vind("grdRooster").geometry().intersects(status().geometry().translated(0, -venster->menuBar()->height())));
 }
 
+TEST_F(Operateur, in_geen_venster_ligt_het_kader_over_de_lijst_of_het_voorbeeld) {
+    for (const QSize maat : {QSize(620, 460), QSize(860, 560), QSize(1000, 600), QSize(1300, 760), QSize(1900, 1000)}) {
+        venster->resize(maat);
+        QCoreApplication::processEvents();
+        const QRect kader = vind("frameRoosterinstellingen").geometry();
+        EXPECT_FALSE(kader.intersects(vind("grdRooster").geometry())) << maat.width();
+        EXPECT_FALSE(kader.intersects(vind("picDeelnemer").geometry())) << maat.width();
+        EXPECT_FALSE(vind("grdRooster").geometry().intersects(vind("picDeelnemer").geometry())) << maat.width();
+    }
+}
+
 TEST_F(Operateur, een_lijst_die_van_het_bestand_verschilt_is_met_een_klik_of_een_toets_heropend) {
     for (const bool met_toets : {false, true}) {
         open(drie);

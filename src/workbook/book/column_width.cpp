@@ -70,7 +70,8 @@ double column_points(double characters, int digit_pixels) {
 double default_column_points(int characters, int digit_pixels) {
     const int padding = 2 * ((digit_pixels + 3) / 4) + 1;
     const int pixels = std::clamp(characters, 0, 255) * digit_pixels + padding;
-    return (pixels + 7) / 8 * 8 * points_per_pixel;
+    const int whole_eights = (pixels + 7) / 8 * 8;
+    return whole_eights * points_per_pixel;
 }
 
 } // namespace tavelo

@@ -86,9 +86,7 @@ class TableHandler : public XmlHandler {
             if (depth == 3 && name == "style") column_style_ = attributes.find("name").value_or("");
             if (depth == 4 && name == "table-column-properties")
                 if (const auto width = attributes.find("column-width")) widths_[column_style_] = points_of(*width);
-        } else if (!is_wanted_) {
-            return;
-        } else if (passed_over_ != 0) {
+        } else if (!is_wanted_ || passed_over_ != 0) {
             return;
         } else if (cell_depth_ != 0) {
             inside_cell(name, depth, attributes);

@@ -109,17 +109,15 @@ class TableHandler : public XmlHandler {
         : book_(book), left_(sheet + 1), writer_(texts) {}
 
     void element_start(std::string_view name, unsigned depth, const XmlAttributes& attributes) override {
-        if (depth == 2) {
-            is_wanted_ = name == "Worksheet" && left_ > 0 && --left_ == 0;
-        } else if (!is_wanted_) {
-            return;
-        } else if (depth == 3) {
+        if (depth == 2) is_wanted_ = name == "Worksheet" && left_ > 0 && --left_ == 0;
+        if (!is_wanted_) return;
+        if (depth == 3) {
             is_table_ = name == "Table";
             if (is_table_)
                 if (const auto width = attributes.decimal("DefaultColumnWidth")) writer_.set_default_width(*width);
-        } else if (!is_table_) {
-            return;
-        } else if (depth == 4 && name == "Column") {
+        }
+        if (!is_table_) return;
+        if (depth == 4 && name == "Column") {
             column(attributes);
         } else if (depth == 4 && name == "Row") {
             begin_row(attributes);

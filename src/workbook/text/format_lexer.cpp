@@ -167,7 +167,7 @@ class Lexer {
             return;
         case '_': // as wide as the next character: one space
             take(1);
-            if (take(code_point_length(rest_)).size() > 0) section.add_literal(" ");
+            if (!take(code_point_length(rest_)).empty()) section.add_literal(" ");
             return;
         case '*': // fills the column with the next character: nothing in a text
             take(1);

@@ -45,7 +45,6 @@ Minus minus_after(const Condition& failed) {
     case Comparison::less_or_equal:
         return Minus::implied; // even where positive numbers remain: Excel has it so
     case Comparison::not_equal:
-        return failed.operand < 0 ? Minus::implied : Minus::shown;
     case Comparison::greater:
         return failed.operand < 0 ? Minus::implied : Minus::shown;
     case Comparison::greater_or_equal:

@@ -6,6 +6,8 @@
 #include <QTextLayout>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace tavelo {
 
 QString plain_tooltip(const QString& text) {
@@ -42,6 +44,18 @@ ElidedLabel::Shown ElidedLabel::shown() const {
     layout.endLayout();
     result.lines = parts.join(QLatin1Char('\n'));
     return result;
+}
+
+int ElidedLabel::lines_for(int width) const {
+    QTextLayout layout(text(), font());
+    layout.beginLayout();
+    int lines = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        ++lines;
+    }
+    layout.endLayout();
+    return std::max(lines, 1);
 }
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {

@@ -10,6 +10,9 @@ class ElidedLabel final : public QLabel {
   public:
     explicit ElidedLabel(QWidget* parent = nullptr);
 
+    // How many lines the whole text takes in a width, at least one.
+    [[nodiscard]] int lines_for(int width) const;
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;

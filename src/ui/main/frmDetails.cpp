@@ -11,8 +11,7 @@ namespace tavelo {
 
 namespace {
 
-constexpr int onder = 6;         // below the last line, in pixels
-constexpr int meeste_regels = 3; // for one detail
+constexpr int onder = 6; // below the last line, in pixels
 
 struct Ontwerp {
     const char* naam;
@@ -66,24 +65,33 @@ int RoosterDetails::kleinste_hoogte() const {
 }
 
 void RoosterDetails::zet_hoogte(int hoogte) {
-    const int voor_een = (hoogte - titelhoogte() - onder) / static_cast<int>(details_.size());
-    const int stap = regelhoogte() * std::clamp(voor_een / regelhoogte(), 1, meeste_regels);
-    int y = titelhoogte();
-    for (const Detail& detail : details_) {
-        detail.koplabel->setGeometry(marge, y, detail.koplabel->width(), stap);
-        detail.label->setGeometry(pixels(label_links_), y, detail.label->width(), stap);
-        y += stap;
-    }
+    hoogte_ = hoogte;
+    verdeel();
+}
+
+void RoosterDetails::zet_labelbreedte(int breedte) {
+    breedte_ = std::max(pixels(breedte), 0);
+    verdeel();
 }
 
 void RoosterDetails::toon(const RubriekLabels& labels) {
     for (const Detail& detail : details_)
         toon_tekst(*detail.label, detail.kop, labels.*detail.tekst);
+    verdeel();
 }
 
-void RoosterDetails::zet_labelbreedte(int breedte) {
-    for (const Detail& detail : details_)
-        detail.label->resize(std::max(pixels(breedte), 0), detail.label->height());
+// A line for each, and what is left over to the long ones, the upper first.
+void RoosterDetails::verdeel() {
+    int vrij = (hoogte_ - kleinste_hoogte()) / regelhoogte();
+    int y = titelhoogte();
+    for (const Detail& detail : details_) {
+        const int extra = std::clamp(detail.label->lines_for(breedte_) - 1, 0, std::max(vrij, 0));
+        vrij -= extra;
+        const int stap = regelhoogte() * (1 + extra);
+        detail.koplabel->setGeometry(marge, y, detail.koplabel->width(), stap);
+        detail.label->setGeometry(pixels(label_links_), y, breedte_, stap);
+        y += stap;
+    }
 }
 
 } // namespace tavelo

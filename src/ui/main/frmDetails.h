@@ -27,7 +27,8 @@ class RoosterDetails final : public QGroupBox {
     // Of the labels inside, in twips: their left, and their width at the present size of the frame.
     [[nodiscard]] int label_links() const { return label_links_; }
     void zet_labelbreedte(int breedte);
-    // In pixels: what the details need, and a height to spread them over, each on several lines where there is room.
+    // In pixels: what the details need at least, and the height that they have: where there is room a long one takes
+    // several lines.
     [[nodiscard]] int kleinste_hoogte() const;
     void zet_hoogte(int hoogte);
 
@@ -40,9 +41,12 @@ class RoosterDetails final : public QGroupBox {
     };
     [[nodiscard]] int regelhoogte() const;
     [[nodiscard]] int titelhoogte() const;
+    void verdeel();
 
     std::vector<Detail> details_;
     int label_links_ = 0;
+    int hoogte_ = 0;  // pixels
+    int breedte_ = 0; // of the labels, in pixels
 };
 
 } // namespace tavelo

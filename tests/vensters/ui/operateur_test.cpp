@@ -237,6 +237,30 @@ TEST_F(Operateur, in_geen_venster_ligt_het_kader_over_de_lijst_of_het_voorbeeld)
     }
 }
 
+TEST_F(Operateur, een_lang_detail_krijgt_de_regels_die_er_over_zijn_en_een_kort_een) {
+    venster->resize(1300, 760);
+    programma.labels.lblRingNaam = "Ring 2";
+    programma.labels.lblRubriekLijsten = "L";
+    venster->toon();
+    const int een = vind("lblRingNaam").height();
+    EXPECT_EQ(vind("lblRubriekLijsten").height(), een);
+    const int jury = vind("lblJury").y();
+
+    for (int i = 0; i < 60; ++i)
+        programma.labels.lblRubriekLijsten += ", M" + std::to_string(i);
+    venster->toon();
+    EXPECT_EQ(vind("lblRingNaam").height(), een);
+    EXPECT_GE(vind("lblRubriekLijsten").height(), 3 * een);
+    EXPECT_EQ(vind("lblJury").y() - jury, vind("lblRubriekLijsten").height() - een);
+    EXPECT_LE(vind("lblJury").geometry().bottom(), vind("frameRoosterinstellingen").height());
+
+    programma.labels.lblRubriekLijsten += std::string(5000, 'x') + std::string(5000, ' ') + "x";
+    for (int i = 0; i < 2000; ++i)
+        programma.labels.lblRubriekLijsten += ", M" + std::to_string(i);
+    venster->toon();
+    EXPECT_LE(vind("lblJury").geometry().bottom(), vind("frameRoosterinstellingen").height());
+}
+
 TEST_F(Operateur, een_lijst_die_van_het_bestand_verschilt_is_met_een_klik_of_een_toets_heropend) {
     for (const bool met_toets : {false, true}) {
         open(drie);

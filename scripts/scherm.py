@@ -140,6 +140,17 @@ class Venster:
         links, boven, _, _ = self.vlak()
         self.scherm.xdotool("mousemove", "--sync", str(links + x), str(boven + y), "click", str(knop))
 
+    def maak_los(self):
+        """Takes it out of maximised as a person does, by a double click on its title bar."""
+        def is_gemaximaliseerd():
+            return "_MAXIMIZED_" in self.scherm.roep("xprop", "-id", self.nummer, "_NET_WM_STATE")
+        if is_gemaximaliseerd():
+            links, boven, breedte, _ = self.vlak()
+            self.scherm.xdotool("mousemove", "--sync", links + breedte // 2, boven - 8, "click", "--repeat", 2,
+                                "--delay", 60, 1)
+            wacht_tot(lambda: not is_gemaximaliseerd(), "een venster dat niet gemaximaliseerd is")
+            self.scherm.muis_weg()
+
     def heeft_rand(self):
         """Whether the window manager drew a title bar around it."""
         uitvoer = self.scherm.roep("xprop", "-id", self.nummer, "_NET_FRAME_EXTENTS")

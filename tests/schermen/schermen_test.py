@@ -215,6 +215,7 @@ class NietsOpDeWand(Proef):
 
     def setUp(self):
         super().setUp()
+        self.hoofd.maak_los()
         self.scherm.xdotool("windowsize", self.hoofd.nummer, 700, 560)
         wacht_tot(lambda: self.hoofd.vlak()[2] < 1000, "het kleine hoofdvenster")
         links = self.scherm.breedte - self.hoofd.vlak()[2] - 2
@@ -273,10 +274,11 @@ class NietsOpDeWand(Proef):
         self.sluit("Wijzigingen van vandaag")
 
     def bij_uitleg(self):
-        """Over the last quick button, nearest to the wall."""
-        links, boven, breedte, _ = self.hoofd.vlak()
-        self.scherm.xdotool("mousemove", "--sync", links + breedte - 60, boven + 65)
-        self.op_een_venster_meer(lambda: self.scherm.xdotool("mousemove_relative", "--sync", 1, 1), "de uitleg bij een knop")
+        """Over the preview, nearest to the wall."""
+        links, boven, breedte, hoogte = self.hoofd.vlak()
+        self.scherm.xdotool("mousemove", "--sync", links + breedte - 30, boven + hoogte - 100)
+        self.op_een_venster_meer(lambda: self.scherm.xdotool("mousemove_relative", "--sync", 1, 1),
+                                 "de uitleg bij het voorbeeld")
         self.scherm.muis_weg()
 
     def bij_melding(self):

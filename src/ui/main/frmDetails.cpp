@@ -82,12 +82,13 @@ void RoosterDetails::toon(const RubriekLabels& labels) {
 
 // A line for each, and what is left over to the long ones, the upper first.
 void RoosterDetails::verdeel() {
-    int vrij = (hoogte_ - kleinste_hoogte()) / regelhoogte();
+    const int regel = fontMetrics().lineSpacing();
+    int vrij = (hoogte_ - kleinste_hoogte()) / regel;
     int y = titelhoogte();
     for (const Detail& detail : details_) {
         const int extra = std::clamp(detail.label->lines_for(breedte_) - 1, 0, std::max(vrij, 0));
         vrij -= extra;
-        const int stap = regelhoogte() * (1 + extra);
+        const int stap = regelhoogte() + extra * regel;
         detail.koplabel->setGeometry(marge, y, detail.koplabel->width(), stap);
         detail.label->setGeometry(pixels(label_links_), y, breedte_, stap);
         y += stap;

@@ -192,6 +192,12 @@ class Monitorvenster(Proef):
         self.scherm.toets("alt+F4")
         wacht_tot(lambda: monitor.nummer not in self.zichtbaar(), "het sluiten van het monitorvenster")
 
+    def test_met_een_scherm_voor_het_publiek_opent_het_hoofdvenster_over_het_hele_eigen_scherm(self):
+        links, boven, breedte, hoogte = self.scherm.bureau()
+        self.assertTrue(ligt_in(self.plaats, (links, boven, breedte, hoogte)), self.plaats)
+        self.assertGreaterEqual(self.plaats[2], breedte - 10)
+        self.assertGreaterEqual(self.plaats[3], hoogte - 60)  # below its title bar
+
     def test_f11_brengt_een_venster_bij_de_operateur_naar_het_vrije_scherm(self):
         for waar in ("hoofdvenster", "monitorvenster"):
             with self.subTest(waar=waar):

@@ -16,9 +16,11 @@ packages_demo=(
     xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
 )
 
-# To test: everything above and these, among them a compositor to fade the splash in and the accessibility bus.
+# To test: everything above and these, among them a compositor to fade the splash in, one of Wayland, and the
+# accessibility bus.
 packages_test=(
     libgtest-dev libbenchmark-dev clang-format-14 clang-tidy-16 shellcheck xcompmgr
+    weston qt6-wayland
     at-spi2-core gir1.2-atspi-2.0 python3-gi dbus-daemon
 )
 

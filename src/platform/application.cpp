@@ -24,9 +24,20 @@ bool clicks_at_once(QObject* receiver, QEvent* event) {
     return true;
 }
 
+// A session under Wayland has an X server beside it. Only there may a program say where its windows stand (the public
+// monitor), keep one on top and fade the splash; and when the display goes, the toolkit ends in a way that lets the
+// settings be saved. What the caller chose by himself stands.
+int& prefer_x_server(int& argc) {
+    constexpr const char* choice = "QT_QPA_PLATFORM";
+    if (!qEnvironmentVariableIsSet(choice) && qEnvironmentVariableIsSet("DISPLAY") &&
+        qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
+        qputenv(choice, "xcb;wayland"); // the second when the X server does not answer
+    return argc;
+}
+
 } // namespace
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+Application::Application(int& argc, char** argv) : QApplication(prefer_x_server(argc), argv) {
     // In KiB. The toolkit keeps a picture of every button in every state and size, ten megabytes of them by the end of
     // a day; those of the windows that are open fit in this.
     QPixmapCache::setCacheLimit(512);

@@ -18,8 +18,8 @@ class Ending final : public QObject {
     // and the end of a session lead to it. It may be called when the program has been shut down already.
     //
     // `last` runs when the process ends by exit(), wherever that is called: the toolkit does so when its X display is
-    // gone. It may touch neither windows nor the display. Without a way in: the toolkit's Wayland plugin leaves by
-    // _exit() when the compositor dies, and no handler runs.
+    // gone. It may touch neither windows nor the display. Without a way in: the toolkit's Wayland plugin, used
+    // where there is no X server, leaves by _exit() when the compositor dies, and no handler runs.
     Ending(std::function<void()> orderly, std::function<void()> last);
     ~Ending() override;
     Ending(const Ending&) = delete;

@@ -286,6 +286,18 @@ def ok_overleeft_een_scherm_dat_weg_is(opties):
     met_scherm(opties, True, lambda loop: loop.scherm.server.kill(), 1, "showrubric=1\n")
 
 
+def onder_wayland_opent_het_op_de_x_server_ernaast(opties):
+    """Where the windows may be placed, and where settings outlive the display."""
+    with Scherm() as scherm:
+        scherm.omgeving |= {"WAYLAND_DISPLAY": "wayland-proef", "XDG_SESSION_TYPE": "wayland"}
+        del scherm.omgeving["QT_QPA_PLATFORM"]
+        scherm.start_achtergrond("weston", "--backend=headless-backend.so", "--socket=wayland-proef")
+        stopcontact = Path(scherm.omgeving["XDG_RUNTIME_DIR"]) / "wayland-proef"
+        wacht_tot(stopcontact.exists, "Wayland", GEDULD)
+        scherm.start(opties.program)
+        scherm.venster(r"Vendalo 3\.5 Tavelo - \[naamloos\]", GEDULD)
+
+
 def wat_niet_met_ok_gekozen_is_wordt_door_een_sein_geannuleerd(opties):
     met_scherm(opties, False, lambda loop: loop.proces.send_signal(signal.SIGTERM), 0, "showrubric=0\n")
 
@@ -316,6 +328,7 @@ PROEVEN = [
     ok_overleeft_sigterm,
     ok_overleeft_sighup,
     ok_overleeft_een_scherm_dat_weg_is,
+    onder_wayland_opent_het_op_de_x_server_ernaast,
     wat_niet_met_ok_gekozen_is_wordt_door_een_sein_geannuleerd,
     wat_niet_met_ok_gekozen_is_wordt_ook_zonder_scherm_niet_bewaard,
     een_sein_tijdens_het_beginscherm_sluit_af_en_bewaart,

@@ -3,6 +3,9 @@
 
 #include "workbook/text/number_format.h"
 
+#include <gtest/gtest.h>
+
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -18,6 +21,18 @@ inline std::string shown_in_dutch(double value, std::string_view code) { return 
 
 inline std::string shown_from_1904(double value, std::string_view code) {
     return shown(value, code, "en-US", DateSystem::from_1904);
+}
+
+struct Shown {
+    double value;
+    std::string_view code;
+    std::string_view text;
+};
+
+inline void expect_shown(std::initializer_list<Shown> table, std::string_view language = "en-US",
+                         DateSystem dates = DateSystem::from_1900) {
+    for (const auto& [value, code, text] : table)
+        EXPECT_EQ(shown(value, code, language, dates), text) << value << " under " << code;
 }
 
 } // namespace tavelo

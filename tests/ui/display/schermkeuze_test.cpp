@@ -133,5 +133,34 @@ TEST(PlaatsNaast, met_evenveel_ruimte_boven_als_onder_het_nummervak_staat_hij_er
               (Schermvlak{658, 450, 622, 350}));
 }
 
+struct Wijzigingenproef {
+    Schermvlak scherm;
+    Schermvlak rooster;
+    Schermvlak plaats;
+};
+
+TEST(PlaatsWijzigingen, staat_rechts_van_de_startlijst_en_blijft_op_het_scherm_van_de_operateur) {
+    const std::array<Wijzigingenproef, 9> proeven = {{
+        // As large as it is made, from the top of the list.
+        {{0, 0, 1920, 1080}, {8, 100, 784, 900}, {800, 100, 920, 400}},
+        // As wide as there is room beside the list, and as high as there is below its top.
+        {{0, 0, 1600, 1080}, {8, 100, 784, 900}, {800, 100, 792, 400}},
+        {{0, 0, 1920, 400}, {8, 100, 784, 300}, {800, 100, 920, 292}},
+        // At its smallest it lies over the list, or stands higher than its top.
+        {{0, 0, 1024, 700}, {8, 100, 784, 500}, {536, 100, 480, 400}},
+        {{0, 0, 1920, 1080}, {8, 1000, 784, 80}, {800, 872, 920, 200}},
+        // A list that begins above the screen.
+        {{0, 0, 1920, 1080}, {8, -60, 784, 900}, {800, 0, 920, 400}},
+        // Screens left of zero and above it, and right of it and below it.
+        {{-1920, -1080, 1920, 1080}, {-1912, -980, 784, 900}, {-1120, -980, 920, 400}},
+        {{1920, 300, 1280, 600}, {1928, 400, 784, 400}, {2712, 400, 480, 400}},
+        // A screen that is smaller than the window shows its top left.
+        {{100, 50, 300, 150}, {100, 50, 784, 900}, {100, 50, 480, 200}},
+    }};
+    for (const Wijzigingenproef& proef : proeven)
+        EXPECT_EQ(plaats_wijzigingen(proef.scherm, proef.rooster), proef.plaats)
+            << proef.plaats.links << ", " << proef.plaats.boven;
+}
+
 } // namespace
 } // namespace tavelo

@@ -367,6 +367,10 @@ TEST(Pijltjes, beginnen_zonder_gekozen_rij_bij_de_rij_die_op_de_monitor_staat) {
     EXPECT_EQ(begin_van_pijltjes(proef.bediening), 3);
     proef.programma.grdRooster.highlight_row(2);
     EXPECT_EQ(begin_van_pijltjes(proef.bediening), 2);
+    for (const int kolom : {1, kolom_laatste}) { // a cell of that row is no chosen row
+        proef.programma.grdRooster.set_column(kolom);
+        EXPECT_EQ(begin_van_pijltjes(proef.bediening), 3) << kolom;
+    }
     zet_txtINR(proef.bediening, "99"); // nothing on the wall
     EXPECT_EQ(begin_van_pijltjes(proef.bediening), 1);
 }

@@ -34,8 +34,10 @@ TEST(NummerTypen, spaties_en_nullen_vooraan_doen_er_niet_toe) {
 
 TEST(NummerTypen, wat_geen_cijfers_zijn_begint_geen_nummer) {
     const Grid lijst = lijst_met({"17", "1"});
-    for (const char* tekst : {"a1", "1a", "1 7", "1.", "1.7", "&H1", "1e", "17 ", "--1"})
+    for (const char* tekst : {"a1", "1a", "1 7", "1.", "1.7", "&H1", "1e", "17 ", "--1"}) {
+        EXPECT_TRUE(begint_een_nummer(lijst, "1")); // and nothing of it is left behind
         EXPECT_FALSE(begint_een_nummer(lijst, tekst)) << tekst;
+    }
 }
 
 TEST(NummerTypen, alleen_nummers_die_het_vak_kan_vinden_tellen) {

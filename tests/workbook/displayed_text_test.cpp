@@ -67,6 +67,7 @@ TEST(GetoondeTekst, fouten_nooit_en_elk_heeft_zijn_woord) {
     for (std::size_t i = 0; i < codes.size(); ++i)
         EXPECT_EQ(DisplayedTexts(book, american).of(cell(CellKind::error, codes[i], 2)), words[i]);
     EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::error, 0x0F)), "#WAARDE!");
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::error, 0x63)), "#LEEG!"); // an error nobody knows
 }
 
 TEST(GetoondeTekst, een_tekst_of_opmaak_die_er_niet_is_schaadt_niet) {
@@ -75,6 +76,8 @@ TEST(GetoondeTekst, een_tekst_of_opmaak_die_er_niet_is_schaadt_niet) {
     text.text = 99;
     EXPECT_EQ(DisplayedTexts(book, dutch).of(text), "");
     EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 1.5, 99)), "1,5");
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 1.5, 4)), "1,5"); // one too many
+    EXPECT_EQ(DisplayedTexts(book, dutch).of(cell(CellKind::number, 46346, 3)), "20-11-2026");
 }
 
 TEST(GetoondeTekst, ingebouwde_bedragen_volgen_het_land) {
@@ -113,9 +116,22 @@ TEST(GetoondeTekst, voorbij_de_som_van_een_blad_toont_elke_cel_niets) {
     DisplayedTexts texts(book, dutch);
     for (std::size_t i = 0; i < most_shown_bytes / longest_text; ++i)
         ASSERT_EQ(texts.of(text).size(), longest_text) << i;
+    // What fits to the byte is still shown.
+    book.strings.add(std::string(most_shown_bytes % longest_text, 'b')).value();
+    book.strings.add("x").value();
+    text.text = 2;
+    EXPECT_EQ(texts.of(text).size(), most_shown_bytes % longest_text);
+    text.text = 3;
     EXPECT_EQ(texts.of(text), "");
-    EXPECT_EQ(texts.of(cell(CellKind::number, 1)), "");                   // also what would have fitted
+    EXPECT_EQ(texts.of(cell(CellKind::number, 1)), ""); // also what would have fitted
+    text.text = 1;
     EXPECT_EQ(DisplayedTexts(book, dutch).of(text).size(), longest_text); // another sheet
+
+    DisplayedTexts others(book, dutch);
+    for (std::size_t i = 0; i < most_shown_bytes / longest_text; ++i)
+        ASSERT_EQ(others.of(text).size(), longest_text) << i;
+    EXPECT_EQ(others.of(text), "");
+    EXPECT_EQ(others.of(cell(CellKind::number, 1)), ""); // also what would have fitted
 }
 
 } // namespace

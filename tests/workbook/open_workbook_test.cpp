@@ -75,6 +75,45 @@ TEST_F(OpenWorkbook, het_tijdelijke_bestand_van_excel_wordt_zo_genoemd) {
     EXPECT_TRUE(open_workbook(write("~$lang.xls", "nr;naam\n" + std::string(2000, 'x') + ";y\n")).has_value());
 }
 
+TEST_F(OpenWorkbook, het_tijdelijke_bestand_van_excel_heeft_een_naam_en_een_maat) {
+    const std::string list = "nr;naam\n";
+    EXPECT_EQ(open_workbook(write("~$a.xls", list + std::string(1024 - list.size(), 'x'))).error(),
+              OpenFailure::owner_file);
+    EXPECT_TRUE(open_workbook(write("~$b.xls", list + std::string(1025 - list.size(), 'x'))).has_value());
+    EXPECT_TRUE(open_workbook(write("a~$.xls", list)).has_value());
+    EXPECT_TRUE(open_workbook(write("~a$.xls", list)).has_value());
+    std::filesystem::create_directory(folder / "~$map");
+    EXPECT_TRUE(open_workbook(write("~$map/lijst.xls", list)).has_value());
+#ifndef _WIN32
+    EXPECT_EQ(open_workbook(write("map\\~$lijst.xls", list)).error(), OpenFailure::owner_file);
+#endif
+}
+
+TEST_F(OpenWorkbook, alleen_pk_begint_een_pakket) {
+    EXPECT_EQ(open_workbook(write("a.xls", "PK;naam\n")).error(), OpenFailure::damaged);
+    EXPECT_EQ(open_workbook(write("a.xls", "PK")).error(), OpenFailure::damaged);
+    EXPECT_TRUE(open_workbook(write("a.xls", "PJ;naam\n")).has_value());
+    EXPECT_TRUE(open_workbook(write("a.xls", "KP;naam\n")).has_value());
+    EXPECT_TRUE(open_workbook(write("a.xls", "QK;naam\n")).has_value());
+    EXPECT_EQ(open_workbook(write("a.xls", "P")).error(), OpenFailure::not_a_workbook);
+}
+
+TEST_F(OpenWorkbook, een_te_groot_bestand_wordt_niet_gelezen) {
+    const std::string file = write("groot.xlsx", "PK");
+    std::filesystem::resize_file(file, largest_workbook_file + 1); // takes no room on the disk
+    EXPECT_EQ(open_workbook(file).error(), OpenFailure::too_large);
+}
+
+TEST_F(OpenWorkbook, een_bestand_van_meer_dan_een_stuk_komt_heel_binnen) {
+    constexpr std::size_t step = 1024 * 1024;
+    for (const std::size_t size : {step - 1, step, step + 1, 2 * step + 5}) {
+        const std::string end = ";einde\n";
+        auto book = open_workbook(write("lang.csv", std::string(size - end.size(), ' ') + end));
+        ASSERT_TRUE(book.has_value()) << size;
+        EXPECT_TRUE(blad_als_csv(**book, 1, locale_named("nl-NL"))->ends_with(",einde\r\n")) << size;
+    }
+}
+
 TEST_F(OpenWorkbook, wat_iets_anders_is_gaat_open_onder_elke_naam) {
     const auto shown = [this](const std::string& name, std::string_view content) {
         auto book = open_workbook(write(name, content));
@@ -93,6 +132,7 @@ TEST(OpenFailureZin, elke_reden_heeft_een_eigen_zin) {
     EXPECT_EQ(sentence_of(OpenFailure::damaged), "De werkmap is beschadigd of nog niet helemaal opgeslagen.");
     EXPECT_EQ(sentence_of(OpenFailure::password), "De werkmap is met een wachtwoord beveiligd.");
     EXPECT_EQ(sentence_of(OpenFailure::too_large), "De werkmap is te groot om te lezen.");
+    EXPECT_EQ(sentence_of(OpenFailure::no_memory), "Er is te weinig geheugen om de werkmap te lezen.");
     EXPECT_EQ(sentence_of(OpenFailure::empty), "Het bestand is leeg of nog niet opgeslagen.");
     EXPECT_EQ(sentence_of(OpenFailure::binary_workbook),
               "Dit is een binaire Excel-werkmap (.xlsb): sla de werkmap op als .xlsx.");

@@ -32,6 +32,9 @@ TEST(Voorwaarde, vergelijkt_met_haar_getal) {
 
 TEST(Voorwaarde, mag_spaties_en_een_plus_voor_haar_getal_hebben) {
     expect_shown({
+        {4, "[= 5]\"ja\";\"nee\"", "nee"},
+        {4, "[=+5]\"ja\";\"nee\"", "nee"},
+        {4, "[= + 5]\"ja\";\"nee\"", "nee"},
         {5, "[= 5]\"ja\";\"nee\"", "ja"},
         {5, "[=+5]\"ja\";\"nee\"", "ja"},
         {5, "[= + 5]\"ja\";\"nee\"", "ja"},

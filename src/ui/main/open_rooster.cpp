@@ -107,13 +107,10 @@ void laad_roosterbestand(Bediening& bediening, int slot) {
     vul_nr_tijd(p.grdRooster, p.schedule.huidige_rubriek, bediening.omgeving.berichten);
 }
 
-// A workbook carries none of these details, and its own title goes with them: it is meant so.
+// A workbook has no ring, and its own title goes with it: it is meant so. An empty class shows nothing else.
 void wis_labels(RubriekLabels& labels) {
-    labels.lblRubriek.clear();
     labels.lblRoosterOmschrijving.clear();
-    labels.lblRingType.clear();
     labels.lblRingNaam.clear();
-    labels.lblDagTijd.clear();
 }
 
 } // namespace

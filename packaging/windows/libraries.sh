@@ -77,11 +77,12 @@ configure_libzip() {
 
 # Core, Gui, Widgets, and Test for the tests. Off is what the program does not use, and what Debian's sources do not hold:
 # the header of drawing tablets. Without OpenGL the Windows plugin must not look for it at run time either (dynamicgl).
+# Direct 2D stays: without it large letters on the wall are not smoothed, and the Windows plugin does not link.
 configure_qt6_base() {
     configure "$@" \
         -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake -DQT_QMAKE_TARGET_MKSPEC=win32-g++ \
         -DBUILD_SHARED_LIBS=ON -DQT_BUILD_{EXAMPLES,TESTS}=OFF \
-        -DFEATURE_{tabletevent,dynamicgl,opengl,vulkan,direct2d}=OFF -DINPUT_opengl=no \
+        -DFEATURE_{tabletevent,dynamicgl,opengl,vulkan,direct2d1_1}=OFF -DINPUT_opengl=no \
         -DFEATURE_{network,sql,xml,dbus,concurrent,printsupport,pdf,androiddeployqt,qmake}=OFF \
         -DFEATURE_{graphicsview,mdiarea,wizard,dockwidget,undocommand,systemtrayicon}=OFF \
         -DFEATURE_{textmarkdownreader,textmarkdownwriter,textodfwriter,islamiccivilcalendar,jalalicalendar}=OFF \

@@ -46,6 +46,62 @@ TEST(TekstAlsWerkmap, een_formule_om_tekst_toont_die_tekst) {
     EXPECT_EQ(csv_of("=\"007\";\"=\"\"008\"\"\";=\"\";=\"a\"b\"\n"), "007,008,,\"=\"\"a\"\"b\"\"\"\n");
 }
 
+TEST(TekstAlsWerkmap, wat_maar_half_een_formule_om_tekst_is_blijft_staan) {
+    EXPECT_EQ(csv_of("=\"a;b\"\n"), "\"=\"\"a\",\"b\"\"\"\n");
+    EXPECT_EQ(csv_of("=\";=\"\"x\n"), "\"=\"\"\",\"=\"\"\"\"x\"\n");
+    EXPECT_EQ(csv_of("a=\"b\";=b\"\n"), "\"a=\"\"b\"\"\",\"=b\"\"\"\n");
+}
+
+TEST(TekstAlsWerkmap, alleen_de_eerste_tweeendertig_regels_wijzen_het_scheidingsteken_aan) {
+    const auto times = [](int count, std::string_view line) {
+        std::string all;
+        for (int i = 0; i < count; ++i)
+            all += line;
+        return all;
+    };
+    EXPECT_EQ(separator_of(times(16, "a,b\n") + times(16, "a;b\n") + times(9, "a,b\n")), ';');
+    EXPECT_EQ(separator_of(times(17, "a,b\n") + times(15, "a;b\n") + times(9, "a;b\n")), ',');
+    EXPECT_EQ(separator_of(times(32, "a\n") + "a;b\n"), std::nullopt);
+    EXPECT_EQ(separator_of(times(31, "a\n") + "a;b\n"), ';');
+}
+
+TEST(TekstAlsWerkmap, van_elk_scheidingsteken_tellen_de_regels_van_een_maat) {
+    EXPECT_EQ(separator_of(""), std::nullopt);
+    EXPECT_EQ(separator_of("a"), std::nullopt);
+    EXPECT_EQ(separator_of("a;b"), ';');
+    EXPECT_EQ(separator_of("a,b"), ',');
+    EXPECT_EQ(separator_of("a\tb"), '\t');
+    EXPECT_EQ(separator_of("a\tb;c\td,e\tf"), '\t');               // alike: the first of the three
+    EXPECT_EQ(separator_of("a,b;c,d"), ';');                       // alike: before the comma
+    EXPECT_EQ(separator_of("a;b\na;b;c\na;b;c;d\na,b\na,b"), ','); // three sizes of semicolons
+    EXPECT_EQ(separator_of("a\nb\nc\nd\ne;f"), ';');               // lines of one field do not count
+    EXPECT_EQ(separator_of("\"a;b\";\"c\nd;e;f\"\ng;h"), ';');
+    EXPECT_EQ(separator_of("\"a,b\nc,d\";e\nf;g"), ';');
+    EXPECT_EQ(separator_of("a.b|c:d"), std::nullopt);
+}
+
+TEST(TekstAlsWerkmap, een_genoemd_scheidingsteken_staat_alleen_op_de_eerste_regel) {
+    EXPECT_EQ(separator_of("sep=x"), 'x');
+    EXPECT_EQ(separator_of("Sep=,\ra;b"), ',');
+    EXPECT_EQ(separator_of("sep=\na;b"), ';');
+    EXPECT_EQ(separator_of("sep;|\na,b\nc,d"), ',');
+    EXPECT_EQ(separator_of("a,b\nsep=|\n"), ',');
+    EXPECT_EQ(csv_of("sep=;\r\na;b\r\n"), "a,b\n");
+    EXPECT_EQ(csv_of("sep=;\ra;b\r"), "a,b\n");
+    EXPECT_EQ(csv_of("sep=;"), "");
+    EXPECT_EQ(csv_of("sep==\na=b\n"), "a,b\n");
+}
+
+TEST(TekstAlsWerkmap, elk_regeleinde_telt_een_keer) {
+    EXPECT_EQ(csv_of("a;b\r\nc;d\n\re;f"), "a,b\nc,d\n,\ne,f\n");
+    EXPECT_EQ(csv_of("a;b\n\n\nc;d"), "a,b\n,\n,\nc,d\n");
+    EXPECT_EQ(csv_of("a;b;"), "a,b\n");
+    EXPECT_EQ(csv_of("\"a\"\"b\";\"c\"d\"e;\"\"\n"), "\"a\"\"b\",\"cd\"\"e\"\n");
+    EXPECT_EQ(csv_of("\"a\rb\r\nc\nd\";e\n"), "\"a\nb\nc\nd\",e\n");
+    EXPECT_EQ(csv_of("a;\"b"), "a,b\n");
+    EXPECT_EQ(csv_of("a;\"b\""), "a,b\n");
+}
+
 TEST(TekstAlsWerkmap, aanhalingstekens_omvatten_een_veld) {
     EXPECT_EQ(csv_of("\"a;b\";\"c\"\"d\"\n1;2\n"), "a;b,\"c\"\"d\"\n1,2\n");
     EXPECT_EQ(csv_of("\"een\r\ntwee\rdrie\";x\n"), "\"een\ntwee\ndrie\",x\n");

@@ -79,6 +79,53 @@ TEST(HtmlAlsWerkmap, witruimte_telt_als_een_spatie) {
               "\"a\nb\nc\",\"d\ne\",f");
 }
 
+TEST(HtmlAlsWerkmap, een_blok_begint_een_regel_en_ander_merk_niet) {
+    for (const auto* name : {"br", "p", "div", "li", "ul", "ol", "h1", "h2", "h3", "h4"}) {
+        const std::string begin = std::string("<") + name + ">";
+        const std::string end = std::string("</") + name + ">";
+        EXPECT_EQ(first_row("<td>a" + begin + "b</td>"), "\"a\nb\"") << name;
+        EXPECT_EQ(first_row("<td>a" + end + "b</td>"), "\"a\nb\"") << name;
+    }
+    for (const auto* name : {"b", "span", "a", "h5", "x", "font"})
+        EXPECT_EQ(first_row(std::string("<td>a<") + name + ">b</" + name + ">c</td>"), "abc") << name;
+    EXPECT_EQ(first_row("<td>a</>b</td>"), "ab");
+}
+
+TEST(HtmlAlsWerkmap, witruimte_om_een_regeleinde_valt_weg) {
+    EXPECT_EQ(first_row("<td> <br>a <br> <br> b<br> </td>"), "\"a\nb\"");
+    EXPECT_EQ(first_row("<td>a\tb</td><td>a\vb</td><td>a\fb</td><td>a\rb</td>"), "a b,a b,a b,a b");
+    EXPECT_EQ(first_row("<td>a \n<b> b</b></td><td>a<b>b</b></td>"), "a b,ab");
+    EXPECT_EQ(first_row("<td>a &nbsp;b</td><td>&nbsp;&nbsp;c</td><td>Â</td><td>a\u00A1</td>"), "a  b,c,Â,a¡");
+}
+
+TEST(HtmlAlsWerkmap, tabellen_in_een_cel_sluiten_hun_eigen_rijen) {
+    EXPECT_EQ(csv_of(table("<tr><td>a<table><tr><td>1</td></tr><tr><td>2</td></tr></table>b</td><td>c</td></tr>"
+                           "<tr><td>d</td></tr>")),
+              "\"a\n1 2\nb\",c\nd,\n");
+    EXPECT_EQ(csv_of(table("<tr><td>a<table><tr><td><table><td>x</table>y</td></tr></table></td></tr><tr><td>d")),
+              "\"a\nx\ny\"\nd\n");
+    EXPECT_EQ(csv_of("</table><td>weg<table><tr>los<td>1</td>los</tr>los<tr><td>2</td></tr></table>"), "1\n2\n");
+}
+
+TEST(HtmlAlsWerkmap, rijen_die_naar_beneden_reiken_schuiven_wat_volgt_op) {
+    EXPECT_EQ(csv_of(table("<tr><td>a</td><td rowspan=3>b</td><td>c</td></tr><tr><td>d</td><td>e</td></tr>"
+                           "<tr><td>f</td><td rowspan=1>g</td></tr><tr><td>h</td><td>i</td></tr>")),
+              "a,b,c\nd,,e\nf,,g\nh,i,\n");
+    EXPECT_EQ(csv_of(table("<tr><td rowspan=2>a</td><td rowspan=2>b</td></tr><tr></tr><tr><td>c</td></tr>")),
+              "a,b\n,\nc,\n");
+    EXPECT_EQ(csv_of(table("<tr><td>a</td><td rowspan=2 colspan=2>b</td><td>c</td></tr><tr><td>d</td><td>e</td></tr>")),
+              "a,b,,c\nd,,,e\n");
+}
+
+TEST(HtmlAlsWerkmap, de_breedste_rij_heeft_precies_de_kolommen_die_mogen) {
+    const std::string last = std::to_string(most_html_columns);
+    EXPECT_EQ(csv_of(table("<tr><td colspan=" + last + ">a</td><td>weg</td></tr><tr><td>1</td></tr>")), "a\n1\n");
+    std::string cells;
+    for (std::uint32_t i = 0; i < most_html_columns + 2; ++i)
+        cells += "<td>" + std::to_string(i);
+    EXPECT_TRUE(first_row(cells).ends_with("," + std::to_string(most_html_columns - 1)));
+}
+
 TEST(HtmlAlsWerkmap, scripts_stijlen_en_opmerkingen_tellen_niet) {
     EXPECT_EQ(
         csv_of("<style>td > a { } </style><script>document.write('<table><tr><td>x</td></tr><tr><td>y');</script>" +
@@ -125,7 +172,14 @@ TEST(HtmlAlsWerkmap, een_pagina_die_excel_zelf_bewaarde_is_een_pagina) {
 }
 
 TEST(HtmlAlsWerkmap, woorden_voor_de_tabel_schaden_niet) {
-    EXPECT_EQ(csv_of("Warning: iets ging mis\n" + table("<tr><td>1</td></tr><tr><td>2</td></tr>")), "1\n2\n");
+    const std::string list = table("<tr><td>1</td></tr><tr><td>2</td></tr>");
+    EXPECT_EQ(csv_of("Warning: iets ging mis\n" + list), "1\n2\n");
+    EXPECT_EQ(csv_of(" \t\r\n" + list), "1\n2\n");
+    // Only near the begin, and only a table.
+    const std::string table_at_last = "x" + std::string(64 * 1024 - 1 - 6, ' ');
+    EXPECT_EQ(csv_of(table_at_last + list.substr(list.find("<table"))), "1\n2\n");
+    EXPECT_EQ(csv_of(table_at_last + " " + list.substr(list.find("<table"))), no_workbook);
+    EXPECT_EQ(csv_of("Warning <td>1</td>"), no_workbook);
 }
 
 TEST(HtmlAlsWerkmap, het_heeft_een_blad_dat_twee_keer_gelezen_kan_worden) {
@@ -133,7 +187,9 @@ TEST(HtmlAlsWerkmap, het_heeft_een_blad_dat_twee_keer_gelezen_kan_worden) {
     ASSERT_EQ(book->sheets().size(), 1U);
     EXPECT_EQ(blad_als_csv(*book, 1, locale_named("nl-NL")), "1\r\n2\r\n");
     EXPECT_EQ(blad_als_csv(*book, 1, locale_named("nl-NL")), "1\r\n2\r\n");
-    EXPECT_FALSE(book->read_sheet(1).has_value());
+    EXPECT_EQ(book->read_sheet(1).error(), OpenFailure::unreadable);
+    EXPECT_EQ(book->sheets()[0].name, "Blad1");
+    EXPECT_FALSE(book->dates_from_1904());
 }
 
 TEST(HtmlAlsWerkmap, wat_nergens_eindigt_kost_geen_tijd_zonder_eind) {

@@ -127,6 +127,157 @@ TEST(OpenDocument, bladen_en_breedten) {
     EXPECT_FALSE(book->read_sheet(2).has_value());
 }
 
+// The text that a cell of this type shows.
+std::string shown(std::string_view type, std::string_view value, std::string_view land = "en-US") {
+    const std::string name = type == "float" ? "value" : std::string(type) + "-value";
+    std::string csv = csv_of(document(row("<table:table-cell office:value-type=\"" + std::string(type) +
+                                          "\" office:" + name + "=\"" + std::string(value) + "\"/>")),
+                             1, land);
+    if (csv.ends_with('\n')) csv.pop_back();
+    return csv;
+}
+
+TEST(OpenDocument, een_tijd_heeft_uren_minuten_en_seconden) {
+    EXPECT_EQ(shown("time", "PT08H30M15S"), "08:30:15");
+    EXPECT_EQ(shown("time", "PT1H"), "01:00:00");
+    EXPECT_EQ(shown("time", "PT1M"), "00:01:00");
+    EXPECT_EQ(shown("time", "PT1S"), "00:00:01");
+    EXPECT_EQ(shown("time", "PT1.5H"), "01:30:00");
+    EXPECT_EQ(shown("time", "PT"), "00:00:00");
+    EXPECT_EQ(shown("time", "PT1D"), "");
+    EXPECT_EQ(shown("time", "PT1"), "");
+    EXPECT_EQ(shown("time", "PTH"), "");
+    EXPECT_EQ(shown("time", "PT1H2"), "");
+    EXPECT_EQ(shown("time", "P1DT1H"), "");
+    EXPECT_EQ(shown("time", "xPT1H"), "");
+    EXPECT_EQ(shown("date", "1899-12-30"), "");
+    EXPECT_EQ(shown("date", "1900-01-01"), "1/1/00");
+    EXPECT_EQ(shown("boolean", "false"), "FALSE");
+    EXPECT_EQ(shown("boolean", "true"), "TRUE");
+    EXPECT_EQ(shown("string", "x"), "");
+    EXPECT_EQ(shown("float", "x"), "");
+}
+
+TEST(OpenDocument, breedten_hebben_een_eenheid) {
+    struct Width {
+        std::string_view written;
+        double points;
+    };
+    constexpr std::array<Width, 12> table = {{
+        {"2.54cm", 72},
+        {"25.4mm", 72},
+        {"2in", 144},
+        {"3pc", 36},
+        {"8px", 6},
+        {"30pt", 30},
+        {"30", 30},
+        {"30x", 30},
+        {"-1cm", 0},
+        {"breed", 0},
+        {"inf", 0},
+        {"0cm", 0},
+    }};
+    for (const auto& [written, points] : table) {
+        const std::string style = "<style:style style:name='a'><style:table-column-properties style:column-width='" +
+                                  std::string(written) + "'/></style:style>";
+        const Sheet sheet =
+            open_workbook(document("<table:table-column table:style-name='a'/>", style)).value()->read_sheet(0).value();
+        ASSERT_EQ(sheet.column_widths.size(), 1U);
+        EXPECT_DOUBLE_EQ(sheet.column_widths[0], points) << written;
+    }
+}
+
+TEST(OpenDocument, een_kolom_zonder_stijl_houdt_de_gewone_breedte) {
+    const auto* const styles =
+        R"(<style:style style:name="a"><style:table-column-properties style:column-width="10pt"/></style:style>
+<style:style style:name="b"><style:table-column-properties/><style:x style:column-width="9pt"/></style:style>
+<style:anders style:name="a"><style:x/></style:anders><style:style><style:table-column-properties style:column-width="20pt"/></style:style>)";
+    const auto widths = [styles](std::string_view columns) {
+        return open_workbook(document(columns, styles)).value()->read_sheet(0)->column_widths;
+    };
+    EXPECT_EQ(widths(R"(<table:table-column table:style-name="b"/><table:table-column table:style-name="a"/>)"),
+              (std::vector<double>{48, 10}));
+    EXPECT_EQ(widths(R"(<table:table-column/><table:table-column table:style-name="weg"/>)"),
+              (std::vector<double>{20}));
+    EXPECT_EQ(widths(R"(<table:table-column table:visibility="visible" table:style-name="a"/>
+<table:table-column table:visibility="filter" table:style-name="a"/><table:table-column table:style-name="a"/>)"),
+              (std::vector<double>{10, 0, 10}));
+    EXPECT_EQ(widths(R"(<table:table-column table:style-name="a" table:number-columns-repeated="0"/>
+<table:table-column table:visibility="collapse"/>)"),
+              (std::vector<double>{10, 0}));
+    EXPECT_EQ(widths(R"(<table:table-column table:style-name="a" table:number-columns-repeated="16383"/>)").size(),
+              16383U);
+    EXPECT_EQ(widths(R"(<table:table-column table:style-name="a" table:number-columns-repeated="16384"/>)").size(), 0U);
+    EXPECT_EQ(widths(R"(<table:table-column table:number-columns-repeated="16384"/>
+<table:table-column table:style-name="a"/>)")
+                  .size(),
+              0U);
+}
+
+TEST(OpenDocument, witruimte_telt_als_een_spatie_behalve_als_element) {
+    const auto text = [](std::string_view inside) {
+        std::string csv = csv_of(document(row("<table:table-cell>" + std::string(inside) + "</table:table-cell>")));
+        if (csv.ends_with('\n')) csv.pop_back();
+        return csv;
+    };
+    EXPECT_EQ(text("<text:p>a&#9;b</text:p>"), "a b");
+    EXPECT_EQ(text("<text:p>a&#13;b&#10;&#10;c  d</text:p>"), "a b c d");
+    EXPECT_EQ(text("<text:p>a<text:s/> b</text:p>"), "a b");
+    EXPECT_EQ(text("<text:p>a<text:line-break/> b</text:p>"), "\"a\nb\"");
+    EXPECT_EQ(text("<text:p>a<text:s text:c='3'/>b</text:p>"), "a   b");
+    EXPECT_EQ(text("<text:p>a<text:s text:c='0'/>b</text:p>"), "ab");
+    EXPECT_EQ(text("<text:p>a<text:s text:c='99999'/>b</text:p>"), "a" + std::string(1024, ' ') + "b");
+    EXPECT_EQ(text("<text:p/><text:p>b</text:p>"), "\"\nb\"");
+    EXPECT_EQ(text("<text:p>a</text:p>weg<text:p>b</text:p>"), "\"a\nb\"");
+    EXPECT_EQ(text("<text:list><text:p>weg</text:p></text:list><text:p>a<text:note>weg</text:note>b</text:p>"), "ab");
+    EXPECT_EQ(text("<text:h>weg</text:h>"), "");
+    EXPECT_EQ(text("<text:p><text:a>b<text:p>c</text:p></text:a>d</text:p>"), "bcd");
+}
+
+TEST(OpenDocument, alles_telt_alleen_op_zijn_eigen_plaats) {
+    EXPECT_EQ(csv_of(document("los<table:x><table:table-cell><text:p>buiten</text:p></table:table-cell></table:x>")),
+              "");
+    EXPECT_EQ(csv_of(document("<office:forms>" + row(cell("weg")) + "</office:forms>" + row(cell("a")))), "a\n");
+    EXPECT_EQ(csv_of(document(row(cell("a") + "<table:anders/>" + cell("b")))), "a,b\n");
+    EXPECT_EQ(
+        csv_of(document(row("<table:covered-table-cell office:value-type='float' office:value='7'/>" + cell("b")))),
+        ",b\n"); // only its text is shown
+    const auto book = open_workbook(test::zip_of(
+        {{"content.xml", "<a><b><spreadsheet><x/><table name='1'/></spreadsheet></b><c><d><table name='2'/></d>"
+                         "<spreadsheet><y><table name='3'/></y><table/></spreadsheet></c></a>"}}));
+    ASSERT_TRUE(book.has_value());
+    ASSERT_EQ((*book)->sheets().size(), 2U);
+    EXPECT_EQ((*book)->sheets()[0].name, "1");
+    EXPECT_EQ((*book)->sheets()[1].name, "");
+    EXPECT_EQ((*book)->read_sheet(2).error(), OpenFailure::unreadable);
+    EXPECT_FALSE((*book)->dates_from_1904());
+}
+
+TEST(OpenDocument, heeft_een_inhoud_en_geen_verwijzingen) {
+    EXPECT_EQ(csv_of(test::zip_of({{"a", "b"}})), test::no_workbook);
+    const std::string empty = "<a><b><spreadsheet><table/></spreadsheet></b></a>";
+    EXPECT_EQ(csv_of(test::zip_of({{"content.xml", empty}})), "");
+    EXPECT_NE(csv_of(test::zip_of({{"content.xml", empty}, {"_rels/.rels", "<Relationships/>"}})), "");
+}
+
+TEST(OpenDocument, herhalingen_eindigen_met_het_blad) {
+    const auto sheet = [](std::string_view rows) {
+        return open_workbook(document(rows)).value()->read_sheet(0).value();
+    };
+    Sheet wide = sheet(row(cell("", R"(table:number-columns-repeated="16383")") +
+                           cell("a", R"(table:number-columns-repeated="9")") + cell("b")));
+    ASSERT_EQ(wide.cells.size(), 1U);
+    EXPECT_EQ(wide.cells[0].column, 16383);
+    Sheet tall = sheet(row("", R"(table:number-rows-repeated="1048575")") +
+                       row(cell("a"), R"(table:number-rows-repeated="9")") + row(cell("b")));
+    ASSERT_EQ(tall.cells.size(), 1U);
+    EXPECT_EQ(tall.cells[0].row, 1048575U);
+    EXPECT_EQ(csv_of(document(row(cell("a", R"(table:number-columns-repeated="0")") + cell("b"),
+                                  R"(table:number-rows-repeated="0")") +
+                              row(cell("c")))),
+              "a,b\nc,\n");
+}
+
 TEST(OpenDocument, met_een_wachtwoord_of_beschadigd_wordt_dat_gezegd) {
     const auto locked =
         test::zip_of({{"content.xml", "\x01\x02"},

@@ -127,11 +127,106 @@ TEST(Xml2003, bladen_en_breedten) {
     EXPECT_EQ(book->sheets()[1].name, "Dag 2");
     EXPECT_EQ(book->read_sheet(0)->column_widths, (std::vector<double>{30, 48, 60.5, 60.5, 0}));
     EXPECT_EQ(csv_of(spreadsheet(""), 2), "twee\n");
-    EXPECT_FALSE(book->read_sheet(2).has_value());
+    EXPECT_EQ(book->read_sheet(2).error(), OpenFailure::unreadable);
+}
+
+TEST(Xml2003, alles_telt_alleen_op_zijn_eigen_plaats) {
+    const auto* const odd = R"(<Anders><Worksheet ss:Name="weg"/><Date1904x/><X><NumberFormat ss:Format="0.0"/>
+<Date1904/></X></Anders><NumberFormat ss:Format="0.0"/><Date1904/>)";
+    const auto* const styles =
+        R"(<Style ss:ID="s1"><NumberFormat ss:Format="0.00"/><X><NumberFormat ss:Format="0.0"/></X><Y ss:Format="0"/></Style>
+<Other><NumberFormat ss:Format="0.0"/></Other><Style ss:ID="s2" ss:Parent="s1"><NumberFormat/></Style>
+<Style ss:ID="s3"><NumberFormat ss:Format="0.00"/></Style><Stijl ss:ID="s1"/><Style/>)";
+    const std::string rows =
+        R"(<Rij/><Kolom ss:Index="9" ss:Width="5"/><X><Row ss:Index="9"/></X>)"
+        R"(<Row><Cel ss:Index="9"/><X><Cell ss:Index="9"/></X>)" +
+        cell("Number", "1", R"(ss:StyleID="s1")") +
+        R"(<Cell><Anders ss:Type="Number">2</Anders><X><Data ss:Type="Number">3</Data></X></Cell>)" +
+        cell("Number", "4", R"(ss:StyleID="s2")") + cell("Number", "5", R"(ss:StyleID="s3")") +
+        R"(<Cell><Data>6</Data><Data ss:Type="String">7</Data></Cell></Row>)";
+    auto book = open_workbook(test::bytes_of(spreadsheet(rows, styles, odd))).value();
+    EXPECT_EQ(blad_als_csv(*book, 1, locale_named("en-US")), "1.00,,4,5.00,67\r\n");
+    EXPECT_EQ(book->sheets().size(), 2U);
+    EXPECT_FALSE(book->dates_from_1904());
+    EXPECT_EQ(book->formats().size(), 2U); // each code once
+    EXPECT_EQ(
+        csv_of(R"(<x xmlns="urn:schemas-microsoft-com:office:spreadsheet"><Workbook><Worksheet/></Workbook></x>)"),
+        test::no_workbook);
+    EXPECT_EQ(csv_of(R"(<Workbook xmlns="urn:schemas-microsoft-com:office:spreadsheet"><Worksheet><Anders><Row><Cell>)"
+                     R"(<Data>1</Data></Cell></Row></Anders><Table><Row><Cell><Data>2</Data></Cell></Row></Table>)"
+                     R"(<Na><Row><Cell><Data>3</Data></Cell></Row></Na></Worksheet></Workbook>)"),
+              "2\n");
+}
+
+TEST(Xml2003, een_waarde_die_niet_klopt_blijft_tekst) {
+    EXPECT_EQ(csv_of(spreadsheet(row(cell("Number", " 7 ") + cell("Number", "7x") + cell("Number", "1e999") +
+                                     cell("Number", "-7e-1") + cell("Number", "inf") + cell("Number", "nan") +
+                                     cell("Number", "x7")))),
+              "7,7x,1e999,\"-0,7\",inf,nan,x7\n");
+    EXPECT_EQ(csv_of(spreadsheet(row(cell("Boolean", "0") + cell("Boolean", " 1 ") + cell("Boolean", "2") +
+                                     cell("Boolean", "10") + cell("String", "1") + cell("Boolean", "x")))),
+              "ONWAAR,WAAR,2,10,1,x\n");
+    EXPECT_EQ(csv_of(spreadsheet(row(cell("Error", "#REF!") + cell("Error", " #NAME? ") + cell("Error", "REF") +
+                                     cell("Anders", "#REF!") + cell("DateTime", "1899-12-30T00:00:00.000") +
+                                     cell("DateTime", "1900-01-01T00:00:00.000") + cell("String", " x ")))),
+              "#VERW!,#NAAM?,REF,#REF!,1899-12-30T00:00:00.000,1, x \n");
+}
+
+TEST(Xml2003, een_plaats_telt_vanaf_een) {
+    EXPECT_EQ(csv_of(spreadsheet(row(cell("String", "a", R"(ss:Index="0")") + cell("String", "b", R"(ss:Index="1")") +
+                                     cell("String", "c", R"(ss:MergeAcross="0")") + cell("String", "d")))),
+              "b,c,d\n");
+    EXPECT_EQ(csv_of(spreadsheet(R"(<Row ss:Index="0" ss:Span="0">)" + cell("String", "a") + "</Row>" +
+                                 R"(<Row ss:Index="1">)" + cell("String", "b") + "</Row>" + row(cell("String", "c")))),
+              "b\nc\n");
+    const Sheet sheet =
+        open_workbook(test::bytes_of(spreadsheet(
+                          R"(<Column ss:Index="16384" ss:Width="10"/><Column ss:Width="20"/>)" +
+                          row(cell("String", "a", R"(ss:Index="16384" ss:MergeAcross="99")") + cell("String", "weg")) +
+                          R"(<Row ss:Index="1048576">)" + cell("String", "b") + "</Row>" + row(cell("String", "weg")))))
+            .value()
+            ->read_sheet(0)
+            .value();
+    ASSERT_EQ(sheet.cells.size(), 2U);
+    EXPECT_EQ(sheet.cells[0].column, 16383);
+    EXPECT_EQ(sheet.cells[1].row, 1048575U);
+    EXPECT_EQ(sheet.column_widths.size(), sheet_columns);
+    EXPECT_EQ(sheet.column_widths.back(), 10);
+}
+
+TEST(Xml2003, kolommen_hebben_een_breedte_en_een_stijl) {
+    const auto* const styles = R"(<Style ss:ID="k"><NumberFormat ss:Format="0.00"/></Style>)";
+    auto book =
+        open_workbook(test::bytes_of(spreadsheet(
+                          R"(<Column ss:StyleID="k"/><Column ss:Index="3" ss:StyleID="k" ss:Width="-5"/>)"
+                          R"(<Column ss:Span="2" ss:Width="20" ss:Hidden="0"/><Column ss:StyleID="k" ss:Width="30"/>)"
+                          R"(<Column ss:Hidden="1" ss:Width="9"/>)" +
+                              row(cell("Number", "1") + cell("Number", "1") + cell("Number", "1") +
+                                  cell("Number", "1", R"(ss:Index="7")") + cell("Number", "1")),
+                          styles)))
+            .value();
+    EXPECT_EQ(blad_als_csv(*book, 1, locale_named("en-US")), "1.00,1,1.00,,,,1.00,1\r\n");
+    EXPECT_EQ(book->read_sheet(0)->column_widths, (std::vector<double>{48, 48, 0, 20, 20, 20, 30, 0}));
+    const std::string wide =
+        R"(<Workbook xmlns="urn:schemas-microsoft-com:office:spreadsheet"><Worksheet>)"
+        R"(<Table DefaultColumnWidth="60.5"><Column Index="2" Width="7"/></Table></Worksheet></Workbook>)";
+    EXPECT_EQ(open_workbook(test::bytes_of(wide)).value()->read_sheet(0)->column_widths,
+              (std::vector<double>{60.5, 7}));
+    EXPECT_EQ(open_workbook(test::bytes_of(wide)).value()->read_sheet(0)->default_column_width, 60.5);
+}
+
+TEST(Xml2003, een_naam_voor_een_opmaak_heeft_ook_een_andere_kant) {
+    EXPECT_EQ(shown("Number", "0", "Yes/No"), "Nee");
+    EXPECT_EQ(shown("Number", "-1", "Yes/No"), "Ja");
+    EXPECT_EQ(shown("Number", "1", "True/False"), "Waar");
+    EXPECT_EQ(shown("Number", "-1", "True/False"), "Waar");
+    EXPECT_EQ(shown("Number", "1", "On/Off"), "Aan");
+    EXPECT_EQ(shown("Number", "-1", "On/Off"), "Aan");
+    EXPECT_EQ(shown("Number", "2", "Euro Currency"), "\"€ 2,00\"");
 }
 
 TEST(Xml2003, lege_regels_vooraan_en_een_andere_tekenset_gaan_open) {
-    EXPECT_EQ(csv_of("\r\n\r\n" + spreadsheet(row(cell("String", "a")))), "a\n");
+    EXPECT_EQ(csv_of(" \t\r\n" + spreadsheet(row(cell("String", "a")))), "a\n");
     std::string western = spreadsheet(row(cell("String", "Zo\xEB")));
     western.replace(western.find("?>"), 2, " encoding=\"windows-1252\"?>");
     EXPECT_EQ(csv_of(western), "Zoë\n");

@@ -260,6 +260,13 @@ TEST(OpenDocument, heeft_een_inhoud_en_geen_verwijzingen) {
     EXPECT_NE(csv_of(test::zip_of({{"content.xml", empty}, {"_rels/.rels", "<Relationships/>"}})), "");
 }
 
+TEST(OpenDocument, meer_bladen_dan_een_werkmap_mag_hebben_vallen_weg) {
+    std::string tables = "</table:table>";
+    for (std::size_t i = 0; i < most_sheets; ++i)
+        tables += "<table:table/>";
+    EXPECT_EQ(open_workbook(document(tables + "<table:table>")).value()->sheets().size(), most_sheets);
+}
+
 TEST(OpenDocument, herhalingen_eindigen_met_het_blad) {
     const auto sheet = [](std::string_view rows) {
         return open_workbook(document(rows)).value()->read_sheet(0).value();

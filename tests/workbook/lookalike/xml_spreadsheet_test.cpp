@@ -225,6 +225,13 @@ TEST(Xml2003, een_naam_voor_een_opmaak_heeft_ook_een_andere_kant) {
     EXPECT_EQ(shown("Number", "2", "Euro Currency"), "\"€ 2,00\"");
 }
 
+TEST(Xml2003, meer_bladen_dan_een_werkmap_mag_hebben_vallen_weg) {
+    std::string xml = R"(<Workbook xmlns="urn:schemas-microsoft-com:office:spreadsheet">)";
+    for (std::size_t i = 0; i <= most_sheets; ++i)
+        xml += "<Worksheet/>";
+    EXPECT_EQ(open_workbook(test::bytes_of(xml + "</Workbook>")).value()->sheets().size(), most_sheets);
+}
+
 TEST(Xml2003, lege_regels_vooraan_en_een_andere_tekenset_gaan_open) {
     EXPECT_EQ(csv_of(" \t\r\n" + spreadsheet(row(cell("String", "a")))), "a\n");
     std::string western = spreadsheet(row(cell("String", "Zo\xEB")));

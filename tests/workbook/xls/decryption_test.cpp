@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 
 namespace tavelo {
@@ -125,6 +126,49 @@ TEST(XlsSlot, de_bytes_van_rc4_zijn_de_bekende) {
     for (int i = 0; i < 9; ++i)
         bytes.push_back(rc4.next());
     EXPECT_EQ(hex(bytes), "eb9f7781b734ca72a7");
+}
+
+TEST(XlsSlot, een_vingerafdruk_klopt_voor_elke_lengte_om_een_blok) {
+    struct Digests {
+        unsigned size;
+        std::string_view md5;
+        std::string_view sha1;
+    };
+    constexpr std::array<Digests, 15> table = {{
+        {1, "55a54008ad1ba589aa210d2629c1df41", "bf8b4530d8d246dd74ac53a13471bba17941dff7"},
+        {54, "c6c0fc662f5f7f53209bd2676b345662", "7fe50979b12cf9232dda5ca196ac5d968090bc2c"},
+        {55, "f1289732253518750e22b62a571a1748", "63ac9708fb581dd150d3647549f9e0cb51dcf1df"},
+        {57, "d5f0a59aa9d6d8164d3754fb91f67809", "4e77d3077d2ab5167db3434c31cac3d15a3afc12"},
+        {63, "dd785945d1d6b87eca0d276dbb8756fd", "d94ff3ad53f9b9327704b812ee9c1f3abbba3d48"},
+        {64, "e3ab394ce4eb7da020a27d2e2443143c", "5f55a35e13f1865e7ffc22dca1275b1a49b0ff56"},
+        {65, "28a6b0f918d9aea03e979a1657d8d0f6", "d7f8931010f8342a97383e1410a58c47d057708b"},
+        {118, "42a01c09c0e7349354695155b02c9b92", "b348b9a103899a241372402cdc7b44c9bf3a8fcd"},
+        {119, "d49720530a386a3191eac0dc840dd1bd", "774001b5ad1f46b40c48e1b94cb092c593ead25b"},
+        {120, "8a440004b569286a42c722295ce1c5a6", "6ebf3111dc761f11b13f29df0484848785385973"},
+        {121, "1f6329f06fb62076bef2278b7007e60f", "467945c0e868aaff130a18a6ff44c3963010999f"},
+        {127, "36d03458e8a745e61afcf02257826e12", "82d007f6e7e5672722c0717b6bea2ba6f17cd35c"},
+        {128, "52cc29caecfd9380a2261a80c58e6787", "0a44ac02432f6ead67d86fcb70a4d8ce589e50ec"},
+        {129, "0fa5eac15b498f879494809c74939fc7", "461b146c523c63566b8bf8852dc8462116cf2e3f"},
+        {1000, "c3b2968d34e038455d14c8827156e193", "7461968a9edb9b418224f1acb305d2feeaa10ba5"},
+    }};
+    for (const Digests& expected : table) {
+        std::vector<std::byte> message;
+        for (unsigned i = 0; i < expected.size; ++i)
+            message.push_back(static_cast<std::byte>((i * 7 + expected.size) & 0xFF));
+        EXPECT_EQ(hex(md5(message)), expected.md5) << expected.size;
+        EXPECT_EQ(hex(sha1(message)), expected.sha1) << expected.size;
+    }
+}
+
+TEST(XlsSlot, rc4_blijft_lang_de_bekende) {
+    std::vector<std::byte> key;
+    for (unsigned i = 1; i <= 16; ++i)
+        key.push_back(static_cast<std::byte>(i));
+    Rc4 rc4(key);
+    std::vector<std::byte> bytes;
+    for (int i = 0; i < 2000; ++i)
+        bytes.push_back(rc4.next());
+    EXPECT_EQ(hex(md5(bytes)), "74826a8b5eef5ab7eab85a1a7e59efe6");
 }
 
 TEST(XlsSlot, rc4_van_40_bits_gaat_vanzelf_open) {

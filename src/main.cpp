@@ -6,6 +6,7 @@
 #include "excel/builtin_excel.h"
 #include "excel/excel_or_builtin.h"
 #include "platform/application.h"
+#include "platform/browser.h"
 #include "platform/debug_log.h"
 #include "platform/dialogs.h"
 #include "platform/dutch_texts.h"
@@ -44,6 +45,7 @@ int main(int argc, char** argv) {
     DebugLog logboek;
     const auto opslag = user_settings();
     SystemFolders mappen;
+    SystemBrowser browser;
     BackgroundReader lezer(post_to_interface);
     ExcelOrBuiltin excel(installed_excel(),
                          builtin_excel(locale_named(utf8(QLocale::system().name().replace('_', '-')))),
@@ -57,14 +59,15 @@ int main(int argc, char** argv) {
         const auto vertoond = [&] { venster.toon_vertoningen(); };
         frmInstellingen(bediening, kleur_dialoog, vertoond, &venster).exec();
     };
-    frmTavelo venster(bediening,
-                      {*opslag, mappen, lezer, utf8(QDir::toNativeSeparators(QCoreApplication::applicationDirPath())),
-                       toon_intro, instellingen});
+    frmTavelo venster(bediening, {*opslag, mappen, lezer, browser,
+                                  utf8(QDir::toNativeSeparators(QCoreApplication::applicationDirPath())), toon_intro,
+                                  instellingen});
     eigenaar.window = &venster;
     const Ending einde([&] { venster.close(); }, [&] { bewaar_bij_afsluiten(programma, *opslag); });
 
     Main(programma, *opslag, mouse_wheel_present, venster);
     if (programma.afgesloten) return 0;
+    toepassing.bij_f1([&](const QWidget& waarin) { venster.toon_handleiding(waarin); });
     // A file to open is all that the command line may hold; what is to be set is set in the settings.
     if (const QStringList genoemd = Application::arguments().mid(1); !genoemd.isEmpty())
         venster.open_genoemd(utf8(QDir::toNativeSeparators(QFileInfo(genoemd.constFirst()).absoluteFilePath())));

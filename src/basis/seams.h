@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -68,6 +69,15 @@ class ColourDialog {
   public:
     virtual ~ColourDialog() = default;
     [[nodiscard]] virtual std::optional<std::int32_t> ask(std::int32_t preselected) = 0;
+};
+
+// The user's browser.
+class Browser {
+  public:
+    virtual ~Browser() = default;
+    // Has it show the page in the file `path`, and does not wait for it. `failed` is called when that turns out not to
+    // work: before this returns, or later from an event.
+    virtual void open(std::string_view path, std::function<void()> failed) = 0;
 };
 
 // Special folders by their Windows identifier (CSIDL), without a trailing separator; nothing when the system has none.

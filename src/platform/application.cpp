@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QDebug>
+#include <QKeyEvent>
 #include <QPixmapCache>
 #include <QSettings>
 #include <QShortcutEvent>
@@ -35,6 +36,13 @@ int& prefer_x_server(int& argc) {
     return argc;
 }
 
+// The key alone, pressed once. A menu that is open keeps the mouse to itself: no other window would be of use.
+bool is_f1(const QObject& receiver, const QEvent& event) {
+    if (event.type() != QEvent::KeyPress || !receiver.isWidgetType() || QApplication::activePopupWidget()) return false;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    return key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier && !key.isAutoRepeat();
+}
+
 } // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(prefer_x_server(argc), argv) {
@@ -48,6 +56,10 @@ Application::Application(int& argc, char** argv) : QApplication(prefer_x_server(
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         if (clicks_at_once(receiver, event)) return true;
+        if (is_f1(*receiver, *event)) {
+            f1_(*static_cast<QWidget*>(receiver)->window());
+            return true;
+        }
         return QApplication::notify(receiver, event);
     } catch (const std::exception& error) {
         qWarning() << "event handler stopped:" << error.what();

@@ -4,6 +4,7 @@
 #include "basis/seams.h"
 #include "basis/text.h"
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -71,6 +72,15 @@ struct FakeColourDialog final : ColourDialog {
     [[nodiscard]] std::optional<std::int32_t> ask(std::int32_t colour) override {
         preselected.push_back(colour);
         return answer;
+    }
+};
+
+struct FakeBrowser final : Browser {
+    std::vector<std::string> opened;
+    std::function<void()> fail; // of the page opened last
+    void open(std::string_view path, std::function<void()> failed) override {
+        opened.emplace_back(path);
+        fail = std::move(failed);
     }
 };
 

@@ -41,6 +41,7 @@ struct GemengdeSchalen : testing::Test {
     test::Opstelling opstelling;
     test::FakeSettings opslag;
     test::FakeSpecialFolders mappen;
+    test::FakeBrowser browser;
     test::DirectReader lezer;
     std::unique_ptr<frmTavelo> venster;
     QWidget* monitor = nullptr;
@@ -50,7 +51,7 @@ struct GemengdeSchalen : testing::Test {
         mappen.folders[5] = map.file("");
         venster = std::make_unique<frmTavelo>(
             opstelling.bediening,
-            TaveloOmgeving{opslag, mappen, lezer, map.file("programma"), [] {}, [](frmTavelo&) {}});
+            TaveloOmgeving{opslag, mappen, lezer, browser, map.file("programma"), [] {}, [](frmTavelo&) {}});
         venster->laad();
         opstelling.open_dialoog.answer =
             map.write("proef.rst", "[Vendalo 3.4]\r\nsinglesignin:0\r\nhoofdstelnummerautomatisch:False\r\n"

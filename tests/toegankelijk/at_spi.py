@@ -43,8 +43,9 @@ class Object:
             if kind.soort not in niet_in:
                 yield from kind.alle(niet_in)
 
-    def vind(self, soort, naam):
-        gevonden = [o for o in self.alle() if (o.soort, o.naam) == (soort, naam)]
+    def vind(self, soort, naam=None):
+        """The first of a kind with this name, or with any."""
+        gevonden = [o for o in self.alle() if o.soort == soort and naam in (None, o.naam)]
         return gevonden[0] if gevonden else None
 
     def besturingen(self):

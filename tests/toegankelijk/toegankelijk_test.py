@@ -60,6 +60,10 @@ class Toegankelijk(unittest.TestCase):
         global at_spi
         import at_spi  # only now: it connects to the bus of this display
 
+        # What the desktop opens pages with: a test says how.
+        cls.browser = cls.scherm.thuis / "xdg-open"
+        cls.browser.touch(0o755)
+        cls.scherm.omgeving["PATH"] = f"{cls.scherm.thuis}:{cls.scherm.omgeving['PATH']}"
         schrijf_instellingen(cls.scherm, UITERLIJK)
         cls.bediening = Bediening(cls.scherm, PROGRAMMA)
         cls.bediening.wacht_op_hoofdvenster()
@@ -111,6 +115,17 @@ class Toegankelijk(unittest.TestCase):
         self.assertIn("Ymkje Quaedvlieg", beeld.uitleg)
         self.bediening.druk("alt+p")
         wacht_tot(lambda: not knop.is_aan(), "de losse knop")
+
+    def test_f1_opent_de_handleiding_en_de_statusregel_zegt_het_als_dat_niet_lukt(self):
+        regel = self.venster("springen").vind("status bar")
+        gevraagd = self.scherm.thuis / "gevraagd"
+        for uitkomst, gezegd in ((0, "de handleiding opent in de browser"), (3, "geen browser gevonden")):
+            gevraagd.unlink(missing_ok=True)
+            self.browser.write_text(f'#!/bin/sh\nprintf %s "$1" >{gevraagd}\nexit {uitkomst}\n')
+            self.bediening.druk("F1")
+            wacht_tot(lambda: gezegd in regel.naam, f"'{gezegd}' in de statusregel")
+            wacht_tot(lambda: gevraagd.is_file() and gevraagd.read_text().endswith("/handleiding.html"), "de browser")
+            self.assertTrue(Path(gevraagd.read_text().removeprefix("file://")).is_file())
 
     def test_een_roosterknop_zegt_of_hij_gekozen_is_en_welk_bestand_hij_heeft(self):
         venster = self.venster("springen")

@@ -3,6 +3,7 @@
 #include "app/start.h"
 #include "fakes/file_readers.h"
 #include "fakes/temp_folder.h"
+#include "platform/application.h"
 #include "platform/codeWindowPos.h"
 #include "platform/qt_text.h"
 #include "ui/main/frmTavelo.h"
@@ -613,6 +614,18 @@ TEST_F(FrmInstellingen, opent_naast_het_voorbeeld_van_het_hoofdvenster) {
     EXPECT_TRUE(scherm.contains(venster.pos()));
 }
 
+TEST_F(FrmInstellingen, geeft_f1_uit_elke_besturing_aan_wie_de_handleiding_toont) {
+    auto& toepassing = static_cast<Application&>(*qApp);
+    const frmInstellingen& venster = open();
+    int gevraagd = 0;
+    toepassing.bij_f1([&](const QWidget& waarin) { gevraagd += &waarin == &venster ? 1 : 0; });
+    for (const char* naam : {"CmbFontName", "HScrollRubriekTekstGrootte", "chkRubriek", "optNummer_0", "btnOK"})
+        QTest::keyClick(&vind(naam), Qt::Key_F1);
+    EXPECT_EQ(gevraagd, 5);
+    EXPECT_TRUE(venster.isVisible());
+    toepassing.bij_f1([](const QWidget&) {});
+}
+
 // The first pixel of a picture area as it is painted.
 QColor eerste_beeldpunt(QWidget& vlak) { return vlak.grab().toImage().pixelColor(0, 0); }
 
@@ -634,7 +647,8 @@ TEST(FrmInstellingenMetHoofdvenster, voorbeeld_en_deelnemersvenster_volgen_elke_
     test::FakeSpecialFolders mappen;
     mappen.folders[5] = map.file(""); // the documents; without them the folders of the suite stand in the root
     test::DirectReader lezer;
-    frmTavelo hoofdvenster(proef.bediening, {opslag, mappen, lezer, ".", [] {}, [](frmTavelo&) {}});
+    test::FakeBrowser browser;
+    frmTavelo hoofdvenster(proef.bediening, {opslag, mappen, lezer, browser, ".", [] {}, [](frmTavelo&) {}});
     Main(
         proef.programma, opslag, [] { return false; }, hoofdvenster);
     hoofdvenster.findChild<QAction*>("mnuPopup")->trigger();

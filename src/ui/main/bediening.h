@@ -24,6 +24,9 @@ struct Omgeving {
     ExcelApplication& excel;
 };
 
+// What came of asking for the manual; said for a while.
+enum class Handleiding { niet_gevraagd, gaat_open, ontbreekt, geen_browser };
+
 struct Bediening {
     Programma& programma;
     Omgeving omgeving;
@@ -34,6 +37,7 @@ struct Bediening {
     OpMonitor op_monitor = OpMonitor(); // with {} g++ 12 warns, without ground, that it is not initialized
     Monitorvenster monitorvenster = Monitorvenster::gewoon; // while the participant window is open
     Dagverslag dagverslag{};
+    Handleiding handleiding = Handleiding::niet_gevraagd;
 };
 
 } // namespace tavelo

@@ -31,6 +31,9 @@ std::optional<Blader> stap_van(const QKeyEvent& event) {
     }
 }
 
+// A modifier, which a digit needs on some keyboards, or a function key: neither goes on with a number.
+bool is_geen_invoer(const QKeyEvent& event) { return event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_F35; }
+
 } // namespace
 
 bool is_cijfer(const QKeyEvent& event) {
@@ -52,6 +55,7 @@ QString Nummervak::tekst_met(const QString& cijfer) const {
 }
 
 void Nummervak::keyPressEvent(QKeyEvent* event) {
+    if (is_geen_invoer(*event)) return QLineEdit::keyPressEvent(event);
     const quint64 nu = event->timestamp();
     const quint64 vorige = std::exchange(vorige_toets_, nu);
     if (const std::optional<Blader> stap = stap_van(*event)) {

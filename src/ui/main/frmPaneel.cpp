@@ -118,7 +118,7 @@ void Paneel::bouw_nummervak(const Grid& rooster) {
     txtINR_ = new Nummervak(
         rooster, [this](Blader richting) { acties_.blader(richting); }, this);
     txtINR_->setAccessibleName(QStringLiteral("Nummer van de combinatie in de ring"));
-    txtINR_->setToolTip(QStringLiteral("Typ het nummer van de combinatie in de ring"));
+    txtINR_->setToolTip(QStringLiteral("Typ het nummer van de combinatie in de ring (F1: de handleiding)"));
     txtINR_->setAlignment(Qt::AlignCenter);
     QFont groot = txtINR_->font();
     groot.setPixelSize(48);

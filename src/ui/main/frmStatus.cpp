@@ -39,6 +39,7 @@ StatusBalk::StatusBalk(std::function<void()> toon_wijzigingen, std::function<voi
     setCursor(Qt::PointingHandCursor);
     lblOpMonitor_ = maak_deel("lblOpMonitor", 0);
     lblVenster_ = maak_deel("lblVenster", 0);
+    lblHandleiding_ = maak_deel("lblHandleiding", 0);
     lblBuitenBeeld_ = maak_deel("lblBuitenBeeld", 0);
     lblLijst_ = maak_deel("lblLijst", 0);
     btnHeropenen_ = new QToolButton(this);
@@ -68,6 +69,7 @@ ElidedLabel* StatusBalk::maak_deel(const char* naam, int rek) {
 void StatusBalk::toon(const Statusregel& regel) {
     toon_deel(*lblOpMonitor_, regel.monitor, palette());
     toon_deel(*lblVenster_, regel.venster, palette());
+    toon_deel(*lblHandleiding_, regel.handleiding, palette());
     toon_deel(*lblBuitenBeeld_, regel.buiten_beeld, palette());
     toon_deel(*lblLijst_, regel.lijst, palette());
     toon_deel(*lblHerlezen_, regel.herlezen, palette());
@@ -75,7 +77,8 @@ void StatusBalk::toon(const Statusregel& regel) {
     btnHeropenen_->setVisible(regel.biedt_heropenen);
 
     QStringList gezegd;
-    for (const StatusDeel* deel : {&regel.monitor, &regel.venster, &regel.buiten_beeld, &regel.lijst, &regel.herlezen})
+    for (const StatusDeel* deel :
+         {&regel.monitor, &regel.venster, &regel.handleiding, &regel.buiten_beeld, &regel.lijst, &regel.herlezen})
         if (!deel->tekst.empty()) gezegd += line_of_text(deel->tekst);
     setAccessibleName(gezegd.join(QStringLiteral("; ")));
 }

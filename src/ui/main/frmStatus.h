@@ -31,6 +31,7 @@ class StatusBalk final : public QStatusBar {
     std::function<void()> toon_wijzigingen_;
     ElidedLabel* lblOpMonitor_ = nullptr;
     ElidedLabel* lblVenster_ = nullptr;
+    ElidedLabel* lblHandleiding_ = nullptr;
     ElidedLabel* lblBuitenBeeld_ = nullptr;
     ElidedLabel* lblLijst_ = nullptr;
     ElidedLabel* lblHerlezen_ = nullptr;

@@ -8,6 +8,7 @@
 #include "ui/main/frmPaneel.h"
 #include "ui/main/frmStatus.h"
 #include "ui/main/frmWijzigingen.h"
+#include "ui/main/handleiding.h"
 #include "ui/main/muiswiel.h"
 
 #include <QApplication>
@@ -28,6 +29,8 @@ namespace {
 constexpr QSize venstermaat(1240, 760);
 
 constexpr int groen_ms = 500; // a re-read takes less than a frame: nobody would see it
+
+constexpr int handleiding_ms = 15'000; // longer than a browser takes to fail
 
 constexpr int hele_klik = 120; // a notch of the wheel, in eighths of a degree
 
@@ -59,6 +62,13 @@ frmTavelo::frmTavelo(Bediening& bediening, TaveloOmgeving omgeving)
     groen_.setSingleShot(true);
     groen_.setInterval(groen_ms);
     connect(&groen_, &QTimer::timeout, this, &frmTavelo::toon_omschrijving);
+    handleiding_.setObjectName(QStringLiteral("TimerHandleiding"));
+    handleiding_.setSingleShot(true);
+    handleiding_.setInterval(handleiding_ms);
+    connect(&handleiding_, &QTimer::timeout, this, [this] {
+        bediening_.handleiding = Handleiding::niet_gevraagd;
+        toon_status();
+    });
 }
 
 frmTavelo::~frmTavelo() = default;
@@ -271,6 +281,14 @@ void frmTavelo::toon_wijzigingen() {
     const QRect rooster(grdRooster_->mapToGlobal(QPoint(0, 0)), grdRooster_->size());
     const Schermvlak plaats = plaats_wijzigingen(schermen[*scherm].vlak, als_schermvlak(rooster));
     wijzigingen_->open({plaats.links, plaats.boven, plaats.breedte, plaats.hoogte});
+}
+
+void frmTavelo::toon_handleiding(const QWidget& waarin) {
+    if (&waarin == deelnemer_) return;
+    tavelo::toon_handleiding(bediening_, omgeving_.programma_map, omgeving_.browser, [this] {
+        handleiding_.start();
+        toon_status();
+    });
 }
 
 void frmTavelo::toon_instellingen() {

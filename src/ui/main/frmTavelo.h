@@ -33,6 +33,7 @@ struct TaveloOmgeving {
     SettingsStore& opslag;
     const SpecialFolders& mappen;
     FileReader& lezer; // for the poll
+    Browser& browser;
     std::string programma_map;
     std::function<void()> toon_intro;                      // returns when the splash has closed
     std::function<void(frmTavelo& eigenaar)> instellingen; // the settings dialog, modal
@@ -47,6 +48,10 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
 
     // A file that the user named in starting the program (a double click): in the first slot, as from the dialog.
     void open_genoemd(std::string_view bestand);
+
+    // In the browser; what comes of it is said in the status line. Not from the participant window: nobody reads it
+    // there, and the browser would come over the wall.
+    void toon_handleiding(const QWidget& waarin);
 
     // Shows what the rules made of the program's value.
     void toon();
@@ -101,7 +106,8 @@ class frmTavelo final : public QMainWindow, public Hoofdvenster, private TaveloV
     StatusBalk* status_ = nullptr;
     frmWijzigingen* wijzigingen_ = nullptr; // from its first showing on
     QPointer<frmDeelnemer> deelnemer_;
-    QTimer groen_{this}; // runs while the description still has to be seen in green
+    QTimer groen_{this};       // runs while the description still has to be seen in green
+    QTimer handleiding_{this}; // runs while the status line tells of the manual
 
     Plaatsen ontwerp_;
     std::optional<Ruimte> getekend_; // for which the panel was built

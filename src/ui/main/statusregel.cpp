@@ -76,11 +76,26 @@ StatusDeel over_lijst(const Programma& p) {
     return {};
 }
 
+StatusDeel over_handleiding(Handleiding handleiding) {
+    switch (handleiding) {
+    case Handleiding::gaat_open:
+        return {"de handleiding opent in de browser"};
+    case Handleiding::ontbreekt:
+        return {"de handleiding staat niet op deze computer", true};
+    case Handleiding::geen_browser:
+        return {"geen browser gevonden om de handleiding te tonen", true};
+    case Handleiding::niet_gevraagd:
+        break;
+    }
+    return {};
+}
+
 } // namespace
 
 Statusregel statusregel(const Bediening& b) {
     return {over_monitor(b),
             over_venster(b),
+            over_handleiding(b.handleiding),
             over_regels(b),
             over_lijst(b.programma),
             {b.dagverslag.samenvatting()},
@@ -88,7 +103,7 @@ Statusregel statusregel(const Bediening& b) {
 }
 
 std::string tekst_in_leeg_rooster(const Programma& p) {
-    return p.grdRooster.rows() <= 1 ? "Open een rooster: Ctrl+O" : "";
+    return p.grdRooster.rows() <= 1 ? "Open een rooster: Ctrl+O\nHandleiding: F1" : "";
 }
 
 bool nummer_onbekend(const Programma& p) {

@@ -16,6 +16,7 @@ struct StatusDeel {
 struct Statusregel {
     StatusDeel monitor;           // what is on the wall and from which list
     StatusDeel venster;           // the participant window: closed, normal, full-screen or its monitor gone
+    StatusDeel handleiding;       // for a while after it was asked for
     StatusDeel buiten_beeld;      // lines that fall outside the picture on the wall
     StatusDeel lijst;             // why a file was not read, or that the list differs from its file
     StatusDeel herlezen;          // when and what the last re-read changed

@@ -44,14 +44,16 @@ struct PollOpEenSlechteShare : testing::Test {
     test::Opstelling opstelling;
     test::FakeSettings opslag;
     test::FakeSpecialFolders mappen;
+    test::FakeBrowser browser;
     BackgroundReader lezer{post_to_interface};
     std::unique_ptr<frmTavelo> venster;
     std::string pad = map.write("finale.rst", rooster("Jan"));
 
     void SetUp() override {
         opstelling.programma.instellingen = laad_instellingen(opslag);
-        venster = std::make_unique<frmTavelo>(
-            opstelling.bediening, TaveloOmgeving{opslag, mappen, lezer, map.file(""), [] {}, [](frmTavelo&) {}});
+        venster =
+            std::make_unique<frmTavelo>(opstelling.bediening, TaveloOmgeving{opslag, mappen, lezer, browser,
+                                                                             map.file(""), [] {}, [](frmTavelo&) {}});
         venster->laad();
         een_uur_geleden();
     }

@@ -299,11 +299,11 @@ TEST(Statusregel, leest_de_lijst_en_de_huidige_waarden_zonder_ze_te_veranderen) 
 
 TEST(LeegRooster, zegt_wat_er_te_doen_valt) {
     AanTafel proef;
-    EXPECT_EQ(tekst_in_leeg_rooster(proef.programma), "Open een rooster: Ctrl+O");
+    EXPECT_EQ(tekst_in_leeg_rooster(proef.programma), "Open een rooster: Ctrl+O\nHandleiding: F1");
     proef.open("proef.rst", elise_en_jan);
     EXPECT_EQ(tekst_in_leeg_rooster(proef.programma), "");
     proef.open_tekst("brief.rst", "Geachte jury,\r\n");
-    EXPECT_EQ(tekst_in_leeg_rooster(proef.programma), "Open een rooster: Ctrl+O");
+    EXPECT_EQ(tekst_in_leeg_rooster(proef.programma), "Open een rooster: Ctrl+O\nHandleiding: F1");
 }
 
 TEST(NummerOnbekend, geldt_voor_een_nummer_dat_niet_in_de_lijst_staat) {

@@ -50,6 +50,7 @@ struct FrmTavelo : testing::Test {
     test::Opstelling opstelling;
     test::FakeSettings opslag;
     test::FakeSpecialFolders mappen;
+    test::FakeBrowser browser;
     test::DirectReader lezer;
     virtual FileReader& lezer_van_de_poll() { return lezer; }
     Programma& programma = opstelling.programma;
@@ -63,7 +64,7 @@ struct FrmTavelo : testing::Test {
         programma.muiswiel_aanwezig = muiswiel;
         mappen.folders[5] = map.file("documenten");
         venster = std::make_unique<frmTavelo>(
-            opstelling.bediening, TaveloOmgeving{opslag, mappen, lezer_van_de_poll(), map.file("programma"),
+            opstelling.bediening, TaveloOmgeving{opslag, mappen, lezer_van_de_poll(), browser, map.file("programma"),
                                                  [this] { ++intros; }, [this](frmTavelo&) { ++instellingen_getoond; }});
         venster->laad();
         QCoreApplication::processEvents();
@@ -378,6 +379,25 @@ TEST_F(FrmTavelo, na_een_pauze_begint_een_cijfer_dat_niet_kan_vervolgen_een_nieu
     EXPECT_EQ(programma.huidige_regel, 3);
     EXPECT_EQ(druk('2', 1499), "172"); // no pause yet
     EXPECT_EQ(druk('7', 2000), "7");
+}
+
+TEST_F(FrmTavelo, shift_en_functietoetsen_zijn_niet_getypt_en_bekorten_de_pauze_niet) {
+    open_nummers({72, 1});
+    quint64 nu = 1000;
+    const auto druk = [&](Qt::Key toets, const char* tekst, quint64 na) {
+        nu += na;
+        QKeyEvent event(QEvent::KeyPress, toets, Qt::NoModifier, tekst);
+        event.setTimestamp(nu);
+        QApplication::sendEvent(&txtINR(), &event);
+        return txtINR().text();
+    };
+    for (const Qt::Key tussendoor : {Qt::Key_Shift, Qt::Key_F1, Qt::Key_F11}) {
+        typ("");
+        druk(Qt::Key_7, "7", 0);
+        EXPECT_EQ(druk(Qt::Key_2, "2", 300), "72");
+        EXPECT_EQ(druk(tussendoor, "", 1450), "72");
+        EXPECT_EQ(druk(Qt::Key_1, "1", 50), "1") << tussendoor;
+    }
 }
 
 TEST_F(FrmTavelo, wissen_met_zijn_toets_en_meteen_een_nummer_typen_verliest_geen_cijfer) {

@@ -2,6 +2,8 @@
 #include "fakes/file_readers.h"
 #include "fakes/opstelling.h"
 #include "fakes/temp_folder.h"
+#include "platform/application.h"
+#include "platform/dialogs.h"
 #include "platform/elided_label.h"
 #include "platform/qt_text.h"
 #include "schedule/record/kolommen.h"
@@ -56,6 +58,7 @@ struct Operateur : testing::Test {
     test::Opstelling opstelling;
     test::FakeSettings opslag;
     test::FakeSpecialFolders mappen;
+    test::FakeBrowser browser;
     test::DirectReader lezer;
     Programma& programma = opstelling.programma;
     std::string pad;
@@ -67,7 +70,7 @@ struct Operateur : testing::Test {
         opstelling.klok.time = {2026, 6, 13, 14, 2, 0};
         venster = std::make_unique<frmTavelo>(
             opstelling.bediening,
-            TaveloOmgeving{opslag, mappen, lezer, map.file("programma"), [] {}, [](frmTavelo&) {}});
+            TaveloOmgeving{opslag, mappen, lezer, browser, map.file("programma"), [] {}, [](frmTavelo&) {}});
         venster->laad();
         QCoreApplication::processEvents();
     }
@@ -129,6 +132,27 @@ struct Operateur : testing::Test {
         return grdRooster().model()->index(rij - 1, 0).data(RoosterModel::merk_role).toBool();
     }
     [[nodiscard]] QTableView& wijzigingen() const { return vind<QTableView>("grdWijzigingen"); }
+};
+
+// With the manual beside the program, and the key that asks for it.
+struct OperateurMetHandleiding : Operateur {
+    void SetUp() override {
+        std::filesystem::create_directories(map.file("programma/handleiding"));
+        map.write("programma/handleiding/handleiding.html", "<html>");
+        Operateur::SetUp();
+        toepassing().bij_f1([this](const QWidget& waarin) { venster->toon_handleiding(waarin); });
+    }
+    void TearDown() override {
+        toepassing().bij_f1([](const QWidget&) {});
+        Operateur::TearDown();
+    }
+    static Application& toepassing() { return static_cast<Application&>(*qApp); }
+    // How many pages the key opened in this window.
+    std::size_t na_f1(QWidget& waarin, Qt::KeyboardModifiers met = Qt::NoModifier) {
+        browser.opened.clear();
+        QTest::keyClick(&waarin, Qt::Key_F1, met);
+        return browser.opened.size();
+    }
 };
 
 TEST_F(Operateur, het_nummervak_kleurt_en_zegt_het_als_zijn_nummer_niet_in_de_lijst_staat) {
@@ -393,6 +417,78 @@ TEST_F(Operateur, een_klik_op_de_statusregel_of_f6_toont_de_wijzigingen_van_vand
         QTest::keyClick(&wijzigingen(), Qt::Key_Escape);
         EXPECT_FALSE(wijzigingen().isVisible());
     }
+}
+
+TEST_F(OperateurMetHandleiding, f1_opent_de_handleiding_uit_elk_venster_van_de_operateur) {
+    open(drie);
+    EXPECT_EQ(na_f1(txtINR()), 1U);
+    EXPECT_EQ(na_f1(grdRooster()), 1U);
+    EXPECT_EQ(na_f1(vind("btnBlader_0")), 1U);
+    QTest::keyClick(&txtINR(), Qt::Key_F6);
+    EXPECT_EQ(na_f1(wijzigingen()), 1U);
+    DialogOwner eigenaar{venster.get()};
+    int in_vragen = 0; // a dialog waits until it is answered
+    const auto antwoord = [&] {
+        QWidget* vraag = QApplication::activeModalWidget();
+        ASSERT_NE(vraag, nullptr);
+        in_vragen += static_cast<int>(na_f1(vraag->focusWidget() ? *vraag->focusWidget() : *vraag));
+        vraag->close();
+    };
+    QTimer::singleShot(0, venster.get(), antwoord);
+    QtMessageBox(eigenaar).show("Geef op in welke kolommen");
+    QTimer::singleShot(0, venster.get(), antwoord);
+    EXPECT_EQ(QtOpenDialog(eigenaar).ask({map.file(""), "Roosters|*.rst"}), std::nullopt);
+    EXPECT_EQ(in_vragen, 2);
+}
+
+TEST_F(OperateurMetHandleiding, f1_laat_een_half_getypt_nummer_staan) {
+    open({{72, "Jan"}, {7, "Kees"}});
+    typ("7");
+    EXPECT_EQ(na_f1(txtINR()), 1U);
+    EXPECT_EQ(txtINR().text(), "7");
+    EXPECT_EQ(venster->focusWidget(), &txtINR());
+    QTest::keyClicks(&txtINR(), "2");
+    EXPECT_EQ(txtINR().text(), "72");
+    EXPECT_EQ(programma.huidige_regel, 1);
+}
+
+TEST_F(OperateurMetHandleiding, f1_op_de_monitor_opent_niets_daar_zou_het_publiek_het_zien) {
+    open(drie);
+    wissel_monitor();
+    EXPECT_EQ(na_f1(deelnemer()), 0U);
+    deelnemer().wissel_weergave(deelnemer_bijschrift);
+    ASSERT_TRUE(deelnemer().beeldvullend());
+    EXPECT_EQ(na_f1(deelnemer()), 0U);
+    EXPECT_TRUE(deelnemer().beeldvullend());
+}
+
+TEST_F(OperateurMetHandleiding, f1_met_een_andere_toets_ingehouden_of_onder_een_menu_opent_niets) {
+    for (const auto met : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier})
+        EXPECT_EQ(na_f1(txtINR(), met), 0U) << met;
+    QKeyEvent ingehouden(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(&txtINR(), &ingehouden);
+    EXPECT_TRUE(browser.opened.empty());
+    auto& menu = vind<QMenu>("mnuBestand");
+    menu.popup(QPoint(0, 0));
+    EXPECT_EQ(na_f1(menu), 0U);
+    menu.close();
+}
+
+TEST_F(OperateurMetHandleiding, de_statusregel_vertelt_een_poos_hoe_het_met_de_handleiding_is) {
+    open(drie);
+    na_f1(txtINR());
+    EXPECT_EQ(tekst("lblHandleiding"), "de handleiding opent in de browser");
+    EXPECT_FALSE(amber("lblHandleiding"));
+    EXPECT_TRUE(status().accessibleName().contains("handleiding"));
+    browser.fail();
+    EXPECT_EQ(tekst("lblHandleiding"), "geen browser gevonden om de handleiding te tonen");
+    EXPECT_TRUE(amber("lblHandleiding"));
+    auto& poos = vind<QTimer>("TimerHandleiding");
+    EXPECT_TRUE(poos.isActive());
+    QMetaObject::invokeMethod(&poos, "timeout", Qt::DirectConnection);
+    EXPECT_EQ(tekst("lblHandleiding"), "");
+    browser.fail();
+    EXPECT_EQ(tekst("lblHandleiding"), "");
 }
 
 TEST_F(Operateur, het_verslag_merkt_gewijzigde_cellen_en_volgt_een_nieuwe_herlezing) {

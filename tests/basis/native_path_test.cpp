@@ -24,6 +24,13 @@ TEST(LangPad, ieder_ander_pad_blijft_zoals_het_is) {
         EXPECT_EQ(without_limit(pad), pad);
 }
 
+#ifndef _WIN32
+TEST(LangPad, heeft_alleen_op_windows_een_grens) {
+    for (const std::string& pad : {"//server/map/" + lang, "C:/shows/" + lang, "/shows/" + lang})
+        EXPECT_EQ(native_path(pad).string(), pad);
+}
+#endif
+
 TEST(LangPad, een_bestand_diep_in_mappen_wordt_gelezen) {
     const test::TempFolder map;
     std::string pad = map.file("");

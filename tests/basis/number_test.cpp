@@ -117,6 +117,7 @@ TEST(Number, een_getal_eindigt_waar_zijn_tekst_eindigt) {
     EXPECT_EQ(leading_number(vervolg.substr(0, 2)), 1);
     EXPECT_EQ(leading_number(vervolg.substr(0, 3)), 1000);
     EXPECT_EQ(leading_number(std::string_view("12.75").substr(0, 3)), 12);
+    EXPECT_EQ(number_in(std::string_view(".5").substr(0, 1)), std::nullopt);
     EXPECT_EQ(leading_number(std::string_view("1e999x9").substr(0, 5)), std::numeric_limits<double>::infinity());
     EXPECT_EQ(leading_number("1e3x9"), 1000);
 }

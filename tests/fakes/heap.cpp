@@ -11,8 +11,11 @@ bool tavelo::test::allocation_has_failed() { return false; }
 
 #else
 
+#include <algorithm>
 #include <atomic>
+#include <cstddef>
 #include <cstdlib>
+#include <memory>
 #include <new>
 
 namespace {
@@ -21,32 +24,48 @@ std::atomic<std::size_t> held = 0;
 std::atomic<std::size_t> left_to_failure = 0; // 0: none is to fail
 std::atomic<bool> has_failed = false;
 
-// The size stands before the block; the block stays aligned as `new` promises.
-constexpr std::size_t before = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
-static_assert(before >= sizeof(std::size_t));
+constexpr std::size_t usual = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 
-} // namespace
+// Stands before what `new` gives.
+struct Head {
+    void* block;
+    std::size_t size;
+};
 
-void* operator new(std::size_t size) {
+void* taken(std::size_t size, std::size_t alignment) {
     if (left_to_failure > 0 && --left_to_failure == 0) {
         has_failed = true;
         throw std::bad_alloc();
     }
-    void* const block = std::malloc(before + size);
+    std::size_t room = size + alignment;
+    void* const block = std::malloc(sizeof(Head) + room);
     if (!block) throw std::bad_alloc();
-    *static_cast<std::size_t*>(block) = size;
+    void* memory = static_cast<std::byte*>(block) + sizeof(Head);
+    std::align(alignment, size, memory, room);
+    static_cast<Head*>(memory)[-1] = {block, size};
     held += size;
-    return static_cast<std::byte*>(block) + before;
+    return memory;
 }
 
-void operator delete(void* memory) noexcept {
+void given_back(void* memory) {
     if (!memory) return;
-    void* const block = static_cast<std::byte*>(memory) - before;
-    held -= *static_cast<std::size_t*>(block);
-    std::free(block);
+    const Head head = static_cast<Head*>(memory)[-1];
+    held -= head.size;
+    std::free(head.block);
 }
 
-void operator delete(void* memory, std::size_t) noexcept { ::operator delete(memory); }
+} // namespace
+
+void* operator new(std::size_t size) { return taken(size, usual); }
+// The memory resources of the library ask in this way.
+void* operator new(std::size_t size, std::align_val_t alignment) {
+    return taken(size, std::max(usual, static_cast<std::size_t>(alignment)));
+}
+
+void operator delete(void* memory) noexcept { given_back(memory); }
+void operator delete(void* memory, std::size_t) noexcept { given_back(memory); }
+void operator delete(void* memory, std::align_val_t) noexcept { given_back(memory); }
+void operator delete(void* memory, std::size_t, std::align_val_t) noexcept { given_back(memory); }
 
 std::size_t tavelo::test::heap_bytes() { return held; }
 

@@ -202,6 +202,7 @@ TEST(Klassen, bij_single_sign_in_komen_klassen_uit_de_gekozen_rubrieken_in_vaste
     EXPECT_EQ(Selectie("2000 , 1, 1").klassen(), "Klasse B, L, M");
     EXPECT_EQ(Selectie("2").klassen(), "Klasse ZZ");  // compared in upper case
     EXPECT_EQ(Selectie("3/4").klassen(), "Klasse Z"); // the slash goes and 34 is left
+    EXPECT_EQ(Selectie("3 4").klassen(), "Klasse Z"); // as does a blank
     EXPECT_EQ(Selectie("").klassen(), "");
     EXPECT_EQ(Selectie("0,-1,2001,1e5,x,,7").klassen(), "");
 }

@@ -109,7 +109,7 @@ std::string nummer_tekst(const Programma& programma) {
 
 std::string afstamming_regel(const Deelnemer& deelnemer, const Instellingen& i) {
     std::string tekst;
-    if (i.showhorsesire != 0) tekst.append(" ").append(afstamming(deelnemer.vader, "vader onbekend"));
+    if (i.showhorsesire != 0) tekst = afstamming(deelnemer.vader, "vader onbekend");
     if (i.showhorsesiredamr != 0) tekst.append(" x ").append(afstamming(deelnemer.moeders_vader, "onbekend"));
     return tekst;
 }

@@ -95,6 +95,16 @@ TEST(GewijzigdeRegels, tellen_ook_wat_erbij_kwam_of_verdween) {
     EXPECT_EQ(gewijzigde_regels(lang, kort), (Plaatsen{1, 2}));
 }
 
+TEST(GewijzigdeRegels, tellen_ook_wat_na_het_wissen_niet_terugkwam) {
+    const test::FakeMeasure meter;
+    const Tekenvlak oud = vlak_met({"72", "Jan", "Bles"});
+    Tekenvlak nieuw = oud;
+    nieuw.wis();
+    nieuw.druk(meter, 30, "72");
+    EXPECT_EQ(gewijzigde_regels(oud, nieuw), (Plaatsen{1, 2}));
+    EXPECT_EQ(gewijzigde_regels(nieuw, oud), (Plaatsen{1, 2}));
+}
+
 TEST(GewijzigdeRegels, tellen_ook_een_andere_plaats_of_maat) {
     const test::FakeMeasure meter;
     const auto met = [&](double x, double y, double punten) {

@@ -3,6 +3,7 @@
 #include "excel/codeExcel.h"
 #include "fakes/seams.h"
 #include "schedule/record/kolommen.h"
+#include "workbook/xls/xls_bytes.h"
 #include "workbook/xlsx/xlsx_maker.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +15,16 @@ namespace tavelo {
 namespace {
 
 const std::string startlijst = TAVELO_TEST_DATA "/workbook/startlijst.xlsx";
+
+// A file that is gone again behind the test.
+struct WrittenFile {
+    WrittenFile(const std::string& name, std::string_view content)
+        : path((std::filesystem::temp_directory_path() / name).string()) {
+        std::ofstream(path, std::ios::binary).write(content.data(), static_cast<std::streamsize>(content.size()));
+    }
+    ~WrittenFile() { std::filesystem::remove(path); }
+    std::string path;
+};
 
 struct BuiltinExcel : testing::Test {
     std::unique_ptr<ExcelApplication> excel = builtin_excel(locale_named("nl-NL"));
@@ -136,6 +147,91 @@ TEST_F(BuiltinExcel, de_opgeslagen_waarde_van_een_cel_is_er_ook) {
     EXPECT_EQ(sheet->Cells(2, 1).value()->Text(), "09:00"); // what was taken from it stays usable
 }
 
+TEST_F(BuiltinExcel, een_cel_heeft_een_plaats_vanaf_een) {
+    auto book = excel->Workbooks().value()->Open(startlijst).value();
+    auto sheet = book->Sheets().value()->Next().value();
+    for (const auto& [row, column] : {std::pair{0, 1}, {1, 0}, {-1, 1}, {1, -1}, {0, 0}})
+        EXPECT_EQ(sheet->Cells(row, column).error(), "Deze cel bestaat niet.") << row << ' ' << column;
+    EXPECT_EQ(sheet->Cells(1, 1).value()->Text(), "Tijd");
+    EXPECT_EQ(sheet->Cells(4, 4).value()->Text(), "Ångström, Åsa");
+}
+
+TEST_F(BuiltinExcel, cellen_mogen_in_elke_volgorde_gevraagd_worden) {
+    lees(startlijst);
+    auto book = excel->Workbooks().value()->Open(startlijst).value();
+    auto sheet = book->Sheets().value()->Next().value();
+    for (int step : {1, 5, 7, 11, 47}) {
+        for (int place = 0; place < 48; ++place) {
+            const int at = place * step % 48;
+            EXPECT_EQ(sheet->Cells(at / 12 + 1, at % 12 + 1).value()->Text(), grid.text(at / 12, at % 12)) << at;
+            EXPECT_EQ(sheet->Cells(at / 12 + 1, at % 12 + 1).value()->Text(), grid.text(at / 12, at % 12)) << at;
+        }
+    }
+}
+
+TEST_F(BuiltinExcel, zonder_cellen_of_zonder_werkmap_komt_er_een_zin) {
+    auto book = excel->Workbooks().value()->Open(startlijst).value();
+    auto sheets = book->Sheets().value();
+    EXPECT_EQ(sheets->Count(), 4);
+    std::vector<std::unique_ptr<ExcelWorksheet>> all;
+    for (int i = 0; i < 4; ++i)
+        all.push_back(sheets->Next().value());
+    EXPECT_EQ(sheets->Next().value(), nullptr);
+    EXPECT_EQ(sheets->Next().value(), nullptr);
+    EXPECT_EQ(all[2]->UsedRange().error(), "Dit blad heeft geen cellen.");
+    EXPECT_EQ(all[2]->Cells(1, 1).error(), "Dit blad heeft geen cellen.");
+    EXPECT_EQ(all[3]->UsedRange().value()->Rows_Count(), 0);
+    EXPECT_TRUE(book->Close().has_value());
+    EXPECT_EQ(book->Sheets().error(), "De werkmap is al gesloten.");
+}
+
+TEST_F(BuiltinExcel, een_dialoogblad_heeft_geen_cellen_en_een_macroblad_wel) {
+    using namespace testing_xls;
+    const Bytes dialog = Bytes().record(0x0081, Bytes().u16(0x0010));
+    const auto stream = book_8({{"Start", number(0, 0, 1)},
+                                {"Dialoog", Bytes(dialog).add(number(0, 0, 2))},
+                                {"Macro", number(0, 0, 3), 1, macro_sheet}})
+                            .bytes();
+    const WrittenFile file("tavelo_dialoog.xls",
+                           std::string_view(reinterpret_cast<const char*>(stream.data()), stream.size()));
+    auto sheets = excel->Workbooks().value()->Open(file.path).value()->Sheets().value();
+    EXPECT_EQ(sheets->Next().value()->Cells(1, 1).value()->Text(), "1");
+    EXPECT_EQ(sheets->Next().value()->UsedRange().error(), "Dit blad heeft geen cellen.");
+    EXPECT_EQ(sheets->Next().value()->Cells(1, 1).value()->Text(), "3");
+}
+
+TEST_F(BuiltinExcel, de_opgeslagen_waarde_volgt_de_soort_van_de_cel) {
+    const auto bytes =
+        test::XlsxMaker{.sheet_data =
+                            R"(<row r="1"><c r="A1" t="b"><v>1</v></c><c r="B1" t="e"><v>#REF!</v></c>)"
+                            R"(<c r="C1"><v>1.5</v></c><c r="D1" s="0"/><c r="E1" t="str"><v>x</v></c></row>)"}
+            .bytes();
+    const WrittenFile file("tavelo_soorten.xlsx",
+                           std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
+    auto book = excel->Workbooks().value()->Open(file.path).value();
+    auto sheet = book->Sheets().value()->Next().value();
+    const std::vector<std::string> values{"1", "23", "1.5", "", "x", ""};
+    const std::vector<std::string> shown{"WAAR", "#VERW!", "1,5", "", "x", ""};
+    for (int column = 1; column <= 6; ++column) {
+        EXPECT_EQ(sheet->Cells(1, column).value()->Value(), values.at(static_cast<std::size_t>(column - 1)));
+        EXPECT_EQ(sheet->Cells(1, column).value()->Text(), shown.at(static_cast<std::size_t>(column - 1)));
+        EXPECT_EQ(sheet->Cells(1, column).value()->Width(), 48.0);
+    }
+}
+
+TEST_F(BuiltinExcel, een_kolom_voorbij_de_breedten_heeft_de_gewone) {
+    const WrittenFile file(
+        "tavelo_breedte.xls",
+        R"(<Workbook xmlns="urn:schemas-microsoft-com:office:spreadsheet"><Worksheet><Table )"
+        R"(DefaultColumnWidth="50"><Column Width="10"/><Column Width="20"/><Row><Cell><Data>a</Data>)"
+        R"(</Cell></Row></Table></Worksheet></Workbook>)");
+    auto book = excel->Workbooks().value()->Open(file.path).value();
+    auto sheet = book->Sheets().value()->Next().value();
+    EXPECT_EQ(sheet->Cells(1, 1).value()->Width(), 10.0);
+    EXPECT_EQ(sheet->Cells(1, 2).value()->Width(), 20.0);
+    EXPECT_EQ(sheet->Cells(1, 3).value()->Width(), 50.0);
+}
+
 TEST_F(BuiltinExcel, een_startlijst_wordt_door_de_letters_van_de_instellingen_het_rooster) {
     Programma programma;
     programma.instellingen.col_startnumber = "a";
@@ -150,16 +246,6 @@ TEST_F(BuiltinExcel, een_startlijst_wordt_door_de_letters_van_de_instellingen_he
     EXPECT_EQ(programma.grdRooster.text(3, kolom_naam), "Daniël Müller");
     EXPECT_TRUE(messages.shown.empty());
 }
-
-// A file that is gone again behind the test.
-struct WrittenFile {
-    WrittenFile(const std::string& name, std::string_view content)
-        : path((std::filesystem::temp_directory_path() / name).string()) {
-        std::ofstream(path, std::ios::binary).write(content.data(), static_cast<std::streamsize>(content.size()));
-    }
-    ~WrittenFile() { std::filesystem::remove(path); }
-    std::string path;
-};
 
 TEST_F(BuiltinExcel, een_lijst_uit_een_portaal_is_een_pagina_die_xls_heet) {
     const WrittenFile file("tavelo_portaal.xls",

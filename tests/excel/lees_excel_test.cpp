@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace tavelo {
 namespace {
 
@@ -147,6 +149,32 @@ TEST_F(LeesExcel, breedten_van_nul_laten_de_kolommen_zoals_ze_waren) {
     lees();
     EXPECT_EQ(grid.column_width(0), fresh.column_width(0));
     EXPECT_EQ(grid.column_width(1), fresh.column_width(1));
+}
+
+TEST_F(LeesExcel, een_breedte_die_geen_geheel_getal_wordt_telt_als_nul) {
+    excel.sheets = {sheet_of({{"a", "b", "c"}})};
+    excel.sheets[0].widths = {1e300, 30.0, std::nan("")};
+    lees();
+    EXPECT_EQ(grid.column_width(0), 0);
+    EXPECT_EQ(grid.column_width(1), 15000);
+    EXPECT_EQ(grid.column_width(2), 0);
+}
+
+TEST_F(LeesExcel, breedten_die_niet_te_lezen_zijn_laten_de_kolommen_zoals_ze_waren) {
+    Grid fresh;
+    fresh.set_columns(2);
+    for (const char* member : {"Cells", "Width"}) {
+        excel.failing_member = member;
+        lees();
+        EXPECT_EQ(grid.column_width(0), fresh.column_width(0)) << member;
+        EXPECT_EQ(grid.column_width(1), fresh.column_width(1)) << member;
+    }
+}
+
+TEST_F(LeesExcel, het_grid_staat_weer_bovenaan) {
+    grid.set_top_row(3);
+    lees();
+    EXPECT_EQ(grid.top_row(), 0);
 }
 
 TEST_F(LeesExcel, wie_naar_het_grid_kijkt_hoort_er_een_keer_van) {

@@ -39,6 +39,14 @@ TEST(HtmlAlsWerkmap, de_eerste_tabel_met_meer_dan_een_rij_telt) {
     EXPECT_EQ(csv_of("<table></table>"), no_workbook);
 }
 
+TEST(HtmlAlsWerkmap, zonder_lijst_wordt_er_niets_gelezen) {
+    TextTable texts;
+    EXPECT_FALSE(has_html_table("<table><tr><td>1</td></tr></table>"));
+    EXPECT_EQ(read_html_table("<table><tr><td>1</td></tr></table>", texts).error(), OpenFailure::not_a_workbook);
+    EXPECT_EQ(read_html_table("", texts).error(), OpenFailure::not_a_workbook);
+    EXPECT_EQ(texts.size(), 0U);
+}
+
 TEST(HtmlAlsWerkmap, een_tabel_in_een_cel_is_tekst_van_die_cel) {
     EXPECT_EQ(first_row("<td>a<table><tr><td>b</td><td>c</td></tr><tr><td>d</td></tr></table>e</td><td>f</td>"),
               "\"a\nb c d\ne\",f");

@@ -1,4 +1,6 @@
 // The container around the workbook: its sectors, its directory, and how both can be broken.
+#include "workbook/xls/compound_file.h"
+
 #include "xls_bytes.h"
 
 #include <gtest/gtest.h>
@@ -267,6 +269,104 @@ TEST(XlsContainer, een_kop_zonder_bruikbare_getallen_is_beschadigd) {
     EXPECT_EQ(failure(Bytes(whole).cut(512)), "beschadigd");
     EXPECT_EQ(failure(Bytes(whole).put_u8(30, 63)), "beschadigd");  // sectors of 2^63 bytes
     EXPECT_EQ(failure(Bytes(whole).put_u32(48, 99)), "beschadigd"); // no directory there
+}
+
+TEST(XlsContainer, elke_byte_van_het_kenmerk_telt) {
+    const Bytes whole = container_of(with_value(1));
+    for (std::size_t at = 0; at < 8; ++at) {
+        for (const unsigned other : {1U, 0xFFU}) {
+            const unsigned value = std::to_integer<unsigned>(whole.bytes().at(at));
+            EXPECT_EQ(failure(Bytes(whole).put_u8(at, (value + other) & 0xFF)), "geen werkmap") << at;
+        }
+    }
+    EXPECT_EQ(failure(Bytes(whole).cut(7)), "geen werkmap");
+}
+
+TEST(XlsContainer, sectoren_hebben_512_tot_65536_bytes_en_kleine_niet_meer) {
+    const Bytes whole = container_of(with_value(1));
+    EXPECT_EQ(failure(Bytes(whole).put_u8(30, 8)), "beschadigd");
+    EXPECT_EQ(failure(Bytes(whole).put_u8(30, 17)), "beschadigd");
+    EXPECT_EQ(failure(Bytes(whole).put_u8(32, 10)), "beschadigd");
+    EXPECT_EQ(shown(Bytes(whole).put_u8(32, 9)), (Shown{"A1=1"}));
+    for (const unsigned shift : {10U, 11U, 13U, 16U})
+        EXPECT_EQ(shown(Container({root_entry(), {.name = u"Workbook", .content = with_value(2)}}, shift).bytes()),
+                  (Shown{"A1=2"}))
+            << shift;
+    EXPECT_EQ(
+        shown(
+            Container({root_entry(), {.name = u"Workbook", .content = with_value(3)}}, 9).small_bytes().put_u8(32, 6)),
+        (Shown{"A1=3"}));
+}
+
+TEST(XlsContainer, een_stroom_onder_de_grens_ligt_in_de_kleine_sectoren) {
+    constexpr std::size_t workbook_size = 1024 + 128 + 120;
+    const Bytes whole = container_of(with_value(1));
+    for (const std::uint32_t size : {4095U, 4096U, 4097U, 512U})
+        EXPECT_EQ(shown(Bytes(whole).put_u32(workbook_size, size)), (Shown{"A1=1"})) << size;
+    const auto stream = stream_named(whole.bytes(), u"workbook");
+    EXPECT_EQ(stream.size(), 4096U);
+    EXPECT_EQ(stream_named(Bytes(whole).put_u32(workbook_size, 4095).bytes(), u"workbook").size(), 0U);
+    EXPECT_EQ(stream_named(Bytes(whole).put_u32(workbook_size, 5000).bytes(), u"workbook").size(), 4096U);
+    EXPECT_EQ(stream_named(Bytes(whole).put_u32(56, 4097).bytes(), u"workbook").size(), 0U);
+    EXPECT_TRUE(stream_named(whole.bytes(), u"book").empty());
+    EXPECT_TRUE(stream_named(Bytes(whole).put_u8(0, 1).bytes(), u"workbook").empty());
+    EXPECT_TRUE(stream_named(Bytes(whole).put_u8(30, 63).bytes(), u"workbook").empty());
+}
+
+TEST(XlsContainer, een_kleine_stroom_heeft_precies_zijn_eigen_bytes) {
+    for (const std::size_t size : {1U, 63U, 64U, 65U, 200U, 1000U}) {
+        Bytes content;
+        for (std::size_t i = 0; i < size; ++i)
+            content.u8(static_cast<unsigned>(i * 7 + 1) & 0xFF);
+        const Bytes file = Container({root_entry(), {.name = u"Iets", .content = content}}).small_bytes();
+        EXPECT_EQ(stream_named(file.bytes(), u"iets"), content.bytes()) << size;
+    }
+}
+
+TEST(XlsContainer, van_een_naam_worden_alleen_de_letters_van_az_klein) {
+    const auto named = [](std::u16string_view stored, std::u16string_view asked) {
+        const Bytes file =
+            Container({root_entry(), {.name = std::u16string(stored), .content = Bytes().u8(7)}}).bytes();
+        return !stream_named(file.bytes(), asked).empty();
+    };
+    EXPECT_TRUE(named(u"AZaz", u"azaz"));
+    EXPECT_FALSE(named(u"AZaz", u"AZaz"));
+    EXPECT_TRUE(named(u"@[`{", u"@[`{"));
+    EXPECT_TRUE(named(u"\u00C9", u"\u00C9"));
+    EXPECT_TRUE(named(u"1234567890123456789012345678901", u"1234567890123456789012345678901"));
+}
+
+TEST(XlsContainer, een_map_is_geen_stroom) {
+    EXPECT_EQ(
+        failure(Container({root_entry(), {.name = u"Workbook", .type = storage, .content = with_value(1)}}).bytes()),
+        "geen werkmap");
+}
+
+TEST(XlsContainer, een_afgebroken_laatste_sector_is_geen_bezwaar_zolang_er_een_begin_is) {
+    const Bytes whole = container_of(with_value(1));
+    EXPECT_EQ(shown(Bytes(whole).cut(whole.size() - 1)), (Shown{"A1=1"}));
+    EXPECT_EQ(failure(Bytes(whole).cut(whole.size() - 1024)), "beschadigd");
+    // What the directory says it does not need may be missing.
+    constexpr std::size_t workbook_size = 1024 + 128 + 120;
+    Bytes shorter = Bytes(whole).put_u32(workbook_size, 7 * 512).put_u32(56, 1024);
+    EXPECT_EQ(shown(Bytes(shorter).cut(whole.size() - 512)), (Shown{"A1=1"}));
+    EXPECT_EQ(failure(Bytes(shorter).put_u32(workbook_size, 7 * 512 + 1).cut(whole.size() - 512)), "beschadigd");
+    EXPECT_EQ(failure(Bytes(shorter).cut(whole.size() - 1024)), "beschadigd");
+}
+
+TEST(XlsContainer, de_tabel_gaat_na_honderdnegen_delen_buiten_de_kop_verder) {
+    // The header names no part of the table any more: the one sector of further parts does, at its begin or at its end.
+    const Bytes whole = container_of(with_value(1));
+    const auto further = static_cast<std::uint32_t>(whole.size() / 512 - 1);
+    for (const std::size_t place : {0U, 126U}) {
+        Bytes file = Bytes(whole).put_u32(76, nothing).put_u32(68, further);
+        for (std::size_t i = 0; i < 127; ++i)
+            file.u32(i == place ? 0 : nothing);
+        EXPECT_EQ(shown(file.u32(end_of_chain)), (Shown{"A1=1"})) << place;
+    }
+    Bytes at_last = Bytes(whole).put_u32(76, nothing).put_u32(76 + 108 * 4, 0);
+    EXPECT_EQ(shown(at_last), (Shown{"A1=1"}));
+    EXPECT_EQ(failure(Bytes(whole).put_u32(76, nothing)), "beschadigd");
 }
 
 TEST(XlsContainer, geen_enkele_verminkte_byte_van_kop_tabel_en_inhoudsopgave_brengt_het_lezen_van_streek) {

@@ -198,6 +198,7 @@ TEST(HtmlAlsWerkmap, het_heeft_een_blad_dat_twee_keer_gelezen_kan_worden) {
     EXPECT_EQ(book->read_sheet(1).error(), OpenFailure::unreadable);
     EXPECT_EQ(book->sheets()[0].name, "Blad1");
     EXPECT_FALSE(book->dates_from_1904());
+    EXPECT_EQ(book->formats().size(), 1U); // General
 }
 
 TEST(HtmlAlsWerkmap, wat_nergens_eindigt_kost_geen_tijd_zonder_eind) {

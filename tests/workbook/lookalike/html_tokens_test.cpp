@@ -220,6 +220,15 @@ TEST(HtmlTekens, mogen_met_een_nummer_geschreven_zijn) {
         EXPECT_EQ(resolved(row.given), row.expected) << row.given;
 }
 
+TEST(HtmlTekens, houden_op_waar_de_tekst_ophoudt) {
+    constexpr std::string_view whole = "&#x41;&amp;";
+    EXPECT_EQ(resolved(whole.substr(0, 2)), "&#");
+    EXPECT_EQ(resolved(whole.substr(0, 3)), "&#x");
+    EXPECT_EQ(resolved(whole.substr(0, 4)), "\x04");
+    EXPECT_EQ(resolved(whole.substr(0, 5)), "A");
+    EXPECT_EQ(resolved(whole.substr(0, 8)), "A&a");
+}
+
 TEST(HtmlTekens, mogen_met_een_naam_geschreven_zijn) {
     const std::array<Row, 22> table = {{
         {"&amp;", "&"},           {"&amp", "&"},      {"&amp;;", "&;"},

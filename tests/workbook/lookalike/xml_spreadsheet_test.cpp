@@ -215,6 +215,21 @@ TEST(Xml2003, kolommen_hebben_een_breedte_en_een_stijl) {
     EXPECT_EQ(open_workbook(test::bytes_of(wide)).value()->read_sheet(0)->default_column_width, 60.5);
 }
 
+TEST(Xml2003, een_stijl_zonder_opmaak_en_zonder_ouder_is_standaard) {
+    const auto* const styles = R"(<Style ss:ID="a"><NumberFormat ss:Format="0.00"/></Style><Style ss:ID="b"/>
+<Style ss:ID="c" ss:Parent="weg"/><Style ss:ID="d" ss:Parent="a"/><Style ss:ID="e"><NumberFormat ss:Format="Long Date"/></Style>)";
+    auto book =
+        open_workbook(test::bytes_of(spreadsheet(row(cell("Number", "1", R"(ss:StyleID="a")") +
+                                                     cell("Number", "1", R"(ss:StyleID="b")") +
+                                                     cell("Number", "1", R"(ss:StyleID="c")") +
+                                                     cell("Number", "1", R"(ss:StyleID="d")") + cell("Number", "1")),
+                                                 styles)))
+            .value();
+    EXPECT_EQ(blad_als_csv(*book, 1, locale_named("en-US")), "1.00,1,1,1.00,1\r\n");
+    ASSERT_EQ(book->formats().size(), 3U);
+    EXPECT_EQ(book->formats()[2], "[$-F800]dddd, mmmm dd, yyyy");
+}
+
 TEST(Xml2003, een_naam_voor_een_opmaak_heeft_ook_een_andere_kant) {
     EXPECT_EQ(shown("Number", "0", "Yes/No"), "Nee");
     EXPECT_EQ(shown("Number", "-1", "Yes/No"), "Ja");

@@ -23,6 +23,25 @@ TEST(PartName, een_doel_met_een_schuine_streep_vooraan_telt_vanaf_de_wortel) {
     EXPECT_EQ(resolve_target("xl/workbook.xml", "\\xl\\sheet1.xml"), "xl/sheet1.xml");
 }
 
+TEST(PartName, alleen_de_letters_van_az_worden_klein) {
+    EXPECT_EQ(part_key("AZaz@[`{\xC3\x89"), "azaz@[`{\xC3\x89");
+    EXPECT_EQ(part_key("//a//B/"), "a//b/");
+    EXPECT_EQ(part_key("\\/a"), "a");
+    EXPECT_EQ(part_key("/"), "");
+}
+
+TEST(PartName, een_doel_mag_stappen_omhoog_en_lege_stappen_hebben) {
+    EXPECT_EQ(resolve_target("a/b/c.xml", "../../d"), "d");
+    EXPECT_EQ(resolve_target("a/b/c.xml", "..//.//d/./e/../f"), "a/d/f");
+    EXPECT_EQ(resolve_target("a/b/c.xml", "."), "a/b");
+    EXPECT_EQ(resolve_target("a/b/c.xml", "../.."), std::nullopt);
+    EXPECT_EQ(resolve_target("c.xml", "."), std::nullopt);
+    EXPECT_EQ(resolve_target("/a/c.xml", "d/"), "a/d");
+    EXPECT_EQ(resolve_target("a/../../c.xml", "d"), std::nullopt);
+    EXPECT_EQ(resolve_target("a/c.xml", "/"), std::nullopt);
+    EXPECT_EQ(resolve_target("a/c.xml", "...x/..d"), "a/...x/..d");
+}
+
 TEST(PartName, een_doel_boven_de_wortel_wordt_geweigerd) {
     EXPECT_EQ(resolve_target("xl/workbook.xml", "../../etc/passwd"), std::nullopt);
     EXPECT_EQ(resolve_target("xl/workbook.xml", "/../etc/passwd"), std::nullopt);
@@ -39,6 +58,7 @@ TEST(PartName, de_relaties_van_een_deel_staan_in_de_map_ernaast) {
     EXPECT_EQ(relationships_of("xl/workbook.xml"), "xl/_rels/workbook.xml.rels");
     EXPECT_EQ(relationships_of("workbook.xml"), "_rels/workbook.xml.rels");
     EXPECT_EQ(relationships_of(""), "_rels/.rels");
+    EXPECT_EQ(relationships_of("/A\\b/C.xml"), "a/b/_rels/c.xml.rels");
 }
 
 } // namespace

@@ -76,6 +76,20 @@ TEST(XlsxCellen, getallen_booleans_en_fouten) {
     EXPECT_EQ(sheet.shown("G1", "en-US"), "#SPILL!");
 }
 
+TEST(XlsxCellen, elke_fout_heeft_haar_woord) {
+    using enum CellError;
+    const std::pair<std::string_view, CellError> table[] = {
+        {"#NULL!", null},   {"#DIV/0!", division},  {"#VALUE!", value},      {"#REF!", reference},
+        {"#NAME?", name},   {"#NUM!", number},      {"#N/A", not_available}, {"#GETTING_DATA", getting_data},
+        {"#SPILL!", spill}, {"#CONNECT!", connect}, {"#BLOCKED!", blocked},  {"#FIELD!", field},
+        {"#CALC!", calc},
+    };
+    for (const auto& [word, error] : table)
+        EXPECT_EQ(error_of(word), error) << word;
+    for (const auto* word : {"", "#N/A!", "#ref!", "REF", "#NULL", "~"})
+        EXPECT_EQ(error_of(word), std::nullopt) << word;
+}
+
 TEST(XlsxCellen, nieuwere_fouten_hebben_hun_nederlandse_woord) {
     const auto sheet = sheet_with(
         R"(<row r="1"><c r="A1" t="e"><v>#CALC!</v></c><c r="B1" t="e"><v>#FIELD!</v></c><c r="C1" t="e"><v>#BLOCKED!</v></c><c r="D1" t="e"><v>#CONNECT!</v></c><c r="E1" t="e"><v>#PYTHON!</v></c></row>)");
@@ -197,6 +211,37 @@ TEST(XlsxCellen, een_blad_in_windows_1252_wordt_gelezen_en_een_onbekende_coderin
 }
 
 TEST(XlsxCellen, de_plaats_van_een_cel) {
+    struct Place {
+        std::string_view reference;
+        std::uint32_t column;
+        std::uint32_t row; // 0 for none: it counts from 1 here
+    };
+    for (const auto& [reference, column, row] : {
+             Place{"A1", 0, 1},
+             {"a1", 0, 1},
+             {"Z9", 25, 9},
+             {"z9", 25, 9},
+             {"AA10", 26, 10},
+             {"AZ1", 51, 1},
+             {"BA1", 52, 1},
+             {"ZZ1", 701, 1},
+             {"AAA1", 702, 1},
+             {"XFD1048576", 16383, 1048576},
+             {"$C$7", 2, 7},
+             {"C$7", 2, 7},
+             {"$C7", 2, 7},
+             {"C", 2, 0},
+             {"$C", 2, 0},
+             {"C$", 2, 0},
+         }) {
+        const auto place = parse_cell_reference(reference);
+        ASSERT_TRUE(place.has_value()) << reference;
+        EXPECT_EQ(place->column, column) << reference;
+        EXPECT_EQ(place->row ? *place->row + 1 : 0, row) << reference;
+    }
+    for (const auto* no_place : {"", "1", "$", "$1", "XFE1", "AAAA1", "A0", "A1048577", "A1x", "A-1", "A1 B", "@1",
+                                 "[1", "`1", "{1", "A@1", "$$A1", "A$$1"})
+        EXPECT_FALSE(parse_cell_reference(no_place).has_value()) << no_place;
     EXPECT_EQ(parse_cell_reference("A1")->column, 0U);
     EXPECT_EQ(parse_cell_reference("XFD1048576")->column, 16383U);
     EXPECT_EQ(parse_cell_reference("XFD1048576")->row, 1048575U);

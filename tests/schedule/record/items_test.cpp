@@ -65,6 +65,13 @@ TEST(Items, een_lege_of_lange_sleutel_en_een_met_een_scheiding_worden_nooit_gevo
     EXPECT_EQ(waarden, (std::vector<std::string_view>{"", "", "", "b:c", ""}));
 }
 
+TEST(Items, achter_de_laatste_sleutel_van_een_lijst_wordt_er_geen_gezocht) {
+    const std::vector<std::string_view> gezocht = {"a", "b", "c"};
+    std::vector<std::string_view> waarden(gezocht.size());
+    Sleutels(std::span(gezocht).first(2)).zoek("c:3\tb:2\ta:1", waarden);
+    EXPECT_EQ(waarden, (std::vector<std::string_view>{"1", "2", ""}));
+}
+
 TEST(Items, een_doorloop_geeft_elk_item_in_volgorde) {
     const std::vector<std::string_view> gezocht = {"oms", "com"};
     std::vector<std::string> gehoord;
@@ -116,6 +123,13 @@ TEST(Items, een_waarde_wordt_vervangen_waar_haar_sleutel_staat) {
     EXPECT_EQ(zet_waarde("co", "na:Jan\tco:1\tpa:Bles", "2"), "na:Jan\tco:2\tpa:Bles");
     EXPECT_EQ(zet_waarde("co", "CO :1\tco:1", "2"), "co:2\tco:2");
     EXPECT_EQ(zet_waarde("co", "d_coup:1", " 2 "), "d_coup:1\tco: 2 "); // the value as given
+}
+
+TEST(Items, een_sleutel_staat_in_hoofd_of_kleine_letters_en_voor_een_dubbele_punt) {
+    EXPECT_EQ(zet_waarde("ad", "AD:Dorpsstraat 1", "Laan 2"), "ad:Laan 2");
+    EXPECT_EQ(zet_waarde("zk", "ZK:1\tzK:1", "2"), "zk:2\tzk:2");
+    EXPECT_EQ(zet_waarde("co", "co\tna:Jan", "2"), "co\tna:Jan\tco:2");
+    EXPECT_EQ(zet_waarde("co", "", std::string(100, '7')), "co:" + std::string(100, '7'));
 }
 
 TEST(Items, een_sleutel_die_ontbreekt_komt_achteraan) {

@@ -9,10 +9,13 @@ namespace tavelo {
 
 bool staat_bovenaan(const QWidget& venster) { return venster.windowFlags().testFlag(Qt::WindowStaysOnTopHint); }
 
-void blijf_bereikbaar(QDialog& dialoog) {
+bool staat_er_een_bovenaan() {
     const QWidgetList vensters = QApplication::topLevelWidgets();
-    if (std::ranges::any_of(vensters, [](const QWidget* w) { return w->isVisible() && staat_bovenaan(*w); }))
-        dialoog.setWindowFlag(Qt::WindowStaysOnTopHint);
+    return std::ranges::any_of(vensters, [](const QWidget* w) { return w->isVisible() && staat_bovenaan(*w); });
+}
+
+void blijf_bereikbaar(QDialog& dialoog) {
+    if (staat_er_een_bovenaan()) dialoog.setWindowFlag(Qt::WindowStaysOnTopHint);
 }
 
 } // namespace tavelo

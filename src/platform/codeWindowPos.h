@@ -9,6 +9,8 @@ namespace tavelo {
 // Above every window that is not on top itself, or back among the rest. Place, size and focus stay as they are.
 void zet_bovenaan(QWidget& venster, bool bovenaan);
 [[nodiscard]] bool staat_bovenaan(const QWidget& venster);
+// Whether a visible window of the program does.
+[[nodiscard]] bool staat_er_een_bovenaan();
 // Takes the caption away for the system too, after an empty title was set: the toolkit shows the name of the program
 // then.
 void wis_titel(QWidget& venster);

@@ -2,21 +2,12 @@
 
 #include "app/programma.h"
 #include "platform/codeWindowPos.h"
-#include "platform/file_columns.h"
 #include "platform/qt_text.h"
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QMessageBox>
-#include <QScreen>
 
 namespace tavelo {
-
-namespace {
-
-constexpr QSize ruime_maat(780, 460); // of the open dialog: whole names beside size, kind and date
-
-} // namespace
 
 QWidget* parent_window(const DialogOwner& owner) {
     QWidget* modal = QApplication::activeModalWidget();
@@ -29,35 +20,6 @@ void QtMessageBox::show(std::string_view text) {
     box.setTextFormat(Qt::PlainText); // a file may hold anything
     blijf_bereikbaar(box);
     box.exec();
-}
-
-QStringList name_filters(std::string_view filter) {
-    const QStringList parts = qt_text(filter).split('|');
-    QStringList filters;
-    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
-        filters += QStringLiteral("%1 (%2)").arg(parts[i], QString(parts[i + 1]).replace(';', ' '));
-    return filters;
-}
-
-std::optional<std::string> QtOpenDialog::ask(const OpenRequest& request) {
-    QFileDialog dialog(parent_window(owner_), QStringLiteral("Rooster openen"), qt_text(request.folder));
-    dialog.setObjectName(QStringLiteral("dlgOpenen"));
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::HideNameFilterDetails); // the labels name the patterns themselves
-    const QStringList filters = name_filters(request.filter);
-    dialog.setNameFilters(filters);
-    dialog.selectNameFilter(filters.value(request.filter_index - 1));
-    dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Zoeken in:"));
-    dialog.setLabelText(QFileDialog::FileName, QStringLiteral("Bestands&naam:"));
-    dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Bestandstypen:"));
-    dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Openen"));
-    dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Annuleren"));
-    zet_kolommen(dialog);
-    dialog.resize(dialog.size().expandedTo(ruime_maat).boundedTo(dialog.screen()->availableSize() * 0.9));
-    blijf_bereikbaar(dialog);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-    return utf8(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
 }
 
 } // namespace tavelo

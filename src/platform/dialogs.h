@@ -46,7 +46,4 @@ class QtColourDialog final : public ColourDialog {
 // when there is none.
 [[nodiscard]] QWidget* parent_window(const DialogOwner& owner);
 
-// "label|patterns|label|patterns" with patterns parted by ";", as the toolkit wants it: one text for each pair.
-[[nodiscard]] QStringList name_filters(std::string_view filter);
-
 } // namespace tavelo

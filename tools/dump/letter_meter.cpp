@@ -3,6 +3,7 @@
 #include "platform/fonts.h"
 
 #include <QGuiApplication>
+#include <QOperatingSystemVersion>
 
 namespace tavelo {
 
@@ -27,7 +28,9 @@ class LetterMeter final : public TextMeasure {
 } // namespace
 
 std::unique_ptr<TextMeasure> letter_meter(int& argument_count, char** arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Without a display; only on Windows there always is one, and the system's fonts come with it.
+    if (QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Windows)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     return std::make_unique<LetterMeter>(argument_count, arguments);
 }
 

@@ -1,5 +1,6 @@
 #include "platform/excel.h"
 
+#include "platform/windows/com.h"
 #include "platform/windows/wide_text.h"
 
 #include <condition_variable>
@@ -65,12 +66,6 @@ class Caller {
     bool ended_ = false;
     std::thread thread_{[this] { serve(); }};
 };
-
-struct Release {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-template <class T>
-using Com = std::unique_ptr<T, Release>;
 
 class Variant {
   public:

@@ -1,4 +1,4 @@
-#include "platform/file_columns.h"
+#include "platform/linux/file_columns.h"
 
 #include <QFileDialog>
 #include <QFileSystemModel>

@@ -78,13 +78,16 @@ class Dump:
     def __init__(self, programma):
         self.programma = programma
 
+    def roep(self, *opdracht):
+        """What it prints."""
+        return subprocess.run([str(self.programma), *map(str, opdracht)], check=True, capture_output=True,
+                              encoding="utf-8",
+                              env={"QT_QPA_PLATFORM": "offscreen", "LANG": "C.UTF-8", "TZ": "Europe/Amsterdam"}).stdout
+
     def lees(self, bestand, *opties, uiterlijk=None):
-        opdracht = [str(self.programma), *map(str, opties)]
         for sleutel, waarde in (UITERLIJK if uiterlijk is None else uiterlijk).items():
-            opdracht += ["--instelling", f"{sleutel}={waarde}"]
-        uitvoer = subprocess.run([*opdracht, str(bestand)], check=True, capture_output=True,
-                                 env={"QT_QPA_PLATFORM": "offscreen", "LANG": "C.UTF-8", "TZ": "Europe/Amsterdam"})
-        return json.loads(uitvoer.stdout)
+            opties += ("--instelling", f"{sleutel}={waarde}")
+        return json.loads(self.roep(*opties, bestand))
 
     def weergave(self, bestand, nummer, breedte, hoogte, *opties, uiterlijk=None):
         return self.lees(bestand, *opties, "--nummer", nummer, "--breedte", breedte * PIXEL, "--hoogte",
@@ -500,9 +503,7 @@ class Demonstratie:
 
     def weergave_uit_werkblad(self, bestand, rij, voorbeeld, kolommen):
         """The display of a row of the workbook: its own texts, placed as those of a schedule in the same area."""
-        opdracht = [str(self.dump.programma), "--blad", "1", "--land", "en-US", str(bestand)]
-        cellen = list(csv.reader(subprocess.run(opdracht, check=True, capture_output=True,
-                                                encoding="utf-8").stdout.splitlines()))[rij - 1]
+        cellen = list(csv.reader(self.dump.roep("--blad", "1", "--land", "en-US", bestand).splitlines()))[rij - 1]
         veld = {sleutel: cellen[ord(letter) - ord("A")] for sleutel, letter in kolommen.items()}
         teksten = [veld["col_startnumber"], veld["col_rider_name"], veld["col_horse_name"],
                    f"{veld['col_horse_sire']} x {veld['col_horse_siredam']}",

@@ -1,8 +1,10 @@
+#include "fakes/read_faults.h"
 #include "workbook/workbook.h"
 #include "workbook/xlsx/xlsx_maker.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 
@@ -113,6 +115,23 @@ TEST_F(OpenWorkbook, een_bestand_van_meer_dan_een_stuk_komt_heel_binnen) {
         EXPECT_TRUE(blad_als_csv(**book, 1, locale_named("nl-NL"))->ends_with(",einde\r\n")) << size;
     }
 }
+
+#ifndef _WIN32
+TEST_F(OpenWorkbook, lezen_dat_mislukt_is_geen_half_bestand) {
+    const std::string file = write("zondag.xlsx", simple.bytes());
+    {
+        const test::ReadFaults faults(std::vector<test::ReadStep>{{.error = EIO}});
+        EXPECT_EQ(open_workbook(file).error(), OpenFailure::unreadable);
+    }
+    {
+        const test::ReadFaults faults({{.most = 3}, {.error = EIO}});
+        EXPECT_EQ(open_workbook(file).error(), OpenFailure::unreadable);
+    }
+    const test::ReadFaults slow({{.most = 3}, {.most = 1}, {.most = 100}});
+    EXPECT_TRUE(open_workbook(file).has_value());
+    EXPECT_GE(slow.reads(), 4U);
+}
+#endif
 
 TEST_F(OpenWorkbook, wat_iets_anders_is_gaat_open_onder_elke_naam) {
     const auto shown = [this](const std::string& name, std::string_view content) {

@@ -130,12 +130,12 @@ class Rc4OfChosenStrength final : public Rc4Cipher {
 class XorCipher final : public Cipher {
   public:
     XorCipher() {
-        constexpr std::array<std::uint8_t, 15> filling = {0xBB, 0xFF, 0xFF, 0xBA, 0xFF, 0xFF, 0xB9, 0x80,
-                                                          0x00, 0xBE, 0x0F, 0x00, 0xBF, 0x0F, 0x00};
+        static_assert(built_in_password.size() == 15);
+        constexpr unsigned filling = 0xBB; // behind the password
         const unsigned key = password_key();
         for (std::size_t i = 0; i < bytes_.size(); ++i) {
-            const unsigned letter = i < built_in_password.size() ? static_cast<unsigned char>(built_in_password[i])
-                                                                 : filling[i - built_in_password.size()];
+            const unsigned letter =
+                i < built_in_password.size() ? static_cast<unsigned char>(built_in_password[i]) : filling;
             const unsigned half = i % 2 == 0 ? key & 0xFF : key >> 8;
             bytes_[i] = std::rotl(static_cast<std::uint8_t>(letter ^ half), 2);
         }

@@ -60,6 +60,14 @@ TEST_F(Blad, zet_zijn_cellen_op_volgorde_en_houdt_de_laatste_van_een_plaats) {
     EXPECT_EQ(box(sheet), "0,1 2x9");
 }
 
+TEST_F(Blad, vergelijkt_elke_cel_met_die_ervoor) {
+    EXPECT_TRUE(number(0, 0, 1));
+    EXPECT_TRUE(number(2, 2, 2));
+    EXPECT_TRUE(number(1, 1, 3));
+    EXPECT_TRUE(number(3, 0, 4));
+    EXPECT_EQ(places(writer.take()), "0,0=1 1,1=3 2,2=2 3,0=4 ");
+}
+
 TEST_F(Blad, houdt_de_laatste_van_een_plaats_ook_als_de_volgorde_klopt) {
     EXPECT_TRUE(number(1, 1, 1));
     EXPECT_TRUE(number(1, 1, 2));

@@ -127,6 +127,11 @@ Entry root_entry(std::uint32_t child = 1) { return {.name = u"Root Entry", .type
 
 Bytes with_value(double value) { return sheet_8(number(0, 0, value)); }
 
+// It lies in the fourth sector of the workbook.
+Bytes with_far_value(double value) {
+    return sheet_8(Bytes().record(0x1234, Bytes().zeros(1700)).add(number(0, 0, value)));
+}
+
 Bytes container_of(Bytes content) {
     return Container({root_entry(), {.name = u"Workbook", .content = std::move(content)}}).bytes();
 }
@@ -356,7 +361,7 @@ TEST(XlsContainer, een_afgebroken_laatste_sector_is_geen_bezwaar_zolang_er_een_b
 
 TEST(XlsContainer, de_tabel_gaat_na_honderdnegen_delen_buiten_de_kop_verder) {
     // The header names no part of the table any more: the one sector of further parts does, at its begin or at its end.
-    const Bytes whole = container_of(with_value(1));
+    const Bytes whole = container_of(with_far_value(1));
     const auto further = static_cast<std::uint32_t>(whole.size() / 512 - 1);
     for (const std::size_t place : {0U, 126U}) {
         Bytes file = Bytes(whole).put_u32(76, nothing).put_u32(68, further);
@@ -367,6 +372,33 @@ TEST(XlsContainer, de_tabel_gaat_na_honderdnegen_delen_buiten_de_kop_verder) {
     Bytes at_last = Bytes(whole).put_u32(76, nothing).put_u32(76 + 108 * 4, 0);
     EXPECT_EQ(shown(at_last), (Shown{"A1=1"}));
     EXPECT_EQ(failure(Bytes(whole).put_u32(76, nothing)), "beschadigd");
+}
+
+TEST(XlsContainer, de_verdere_delen_van_de_tabel_mogen_over_meer_sectoren_gaan) {
+    const Bytes whole = container_of(with_far_value(1));
+    const auto further = static_cast<std::uint32_t>(whole.size() / 512 - 1);
+    Bytes file = Bytes(whole).put_u32(76, nothing).put_u32(68, further);
+    for (std::size_t i = 0; i < 127; ++i)
+        file.u32(nothing);
+    file.u32(further + 1);
+    for (std::size_t i = 0; i < 128; ++i)
+        file.u32(i == 0 ? 0 : nothing);
+    EXPECT_EQ(shown(file), (Shown{"A1=1"}));
+    EXPECT_EQ(shown(Bytes(file).cut(file.size() - 4)), (Shown{"A1=1"})); // without the number of a next one
+}
+
+TEST(XlsBegin, is_dat_van_een_container_of_van_een_eerste_record) {
+    const Bytes whole = container_of(with_value(1));
+    EXPECT_TRUE(begins_as_xls(whole.bytes()));
+    for (std::size_t at = 0; at < 8; ++at)
+        EXPECT_FALSE(begins_as_xls(Bytes(whole).put_u8(at, 0x55).bytes())) << at;
+    for (const unsigned type : {0x0009U, 0x0209U, 0x0409U, 0x0809U})
+        for (const unsigned length : {0U, 3U, 4U, 16U, 32U, 33U, 0x104U})
+            EXPECT_EQ(begins_as_xls(Bytes().u16(type).u16(length).bytes()), length >= 4 && length <= 32)
+                << type << ' ' << length;
+    for (const unsigned type : {0x0008U, 0x000AU, 0x0109U, 0x0609U, 0x0A09U})
+        EXPECT_FALSE(begins_as_xls(Bytes().u16(type).u16(16).bytes())) << type;
+    EXPECT_FALSE(begins_as_xls({}));
 }
 
 TEST(XlsContainer, geen_enkele_verminkte_byte_van_kop_tabel_en_inhoudsopgave_brengt_het_lezen_van_streek) {

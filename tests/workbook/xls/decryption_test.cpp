@@ -188,6 +188,16 @@ TEST(XlsSlot, rc4_van_gekozen_sterkte_gaat_vanzelf_open) {
               all_cells);
 }
 
+TEST(XlsSlot, wat_achter_het_slot_staat_telt_niet) {
+    const Locking weak = rc4_with({"e0f0f3ab5b2c55a6fff6d99ae30691fb", "cdb235c584cc3283c74f3970baac0043"});
+    EXPECT_EQ(shown(locked(book_with(Bytes(weak_lock).u32(0x12345678)), weak)), all_cells);
+    const Bytes strong =
+        chosen_lock(128, "a024a295d910dcd16b2b69c9dfef1919", "74a70eb0e7278136e857318b9e9a13d19115d50b");
+    EXPECT_EQ(shown(locked(book_with(Bytes(strong).u32(0x12345678)),
+                           rc4_with({"ac2a7b172474c79c0b1292e558dfd9b1", "f5648bfcf2dc15ff7dd417b6af542bcb"}))),
+              all_cells);
+}
+
 TEST(XlsSlot, het_oudste_slot_gaat_vanzelf_open) {
     EXPECT_EQ(shown(locked(book_with(Bytes().u16(0).u16(0xB359).u16(0x9A0A)), by_xor)), all_cells);
     const Bytes old_lock = Bytes().record(filepass, Bytes().u16(0xB359).u16(0x9A0A));

@@ -235,6 +235,71 @@ TEST(XlsWerkmap, de_gewone_kolombreedte_staat_in_tekens_of_nauwkeurig) {
     EXPECT_EQ(read(sheet_8(Bytes(characters).add(exact))).default_column_width, 105.0);
 }
 
+TEST(XlsWerkmap, opmaak_en_stijlen_verschuiven_de_lettertypen_niet) {
+    // The font of the style is the second one, of 20 points: 15 pixels a digit.
+    const Bytes fonts = font_8(10, "Arial").add(font_8(20, "Arial"));
+    const Bytes normal = Bytes().record(0x0293, Bytes().u16(0x8000).u8(0).u8(0xFF));
+    const Bytes other = Bytes().record(0x0293, Bytes().u16(0x8001).u8(3).u8(0xFF)); // another style
+    const Bytes own = Bytes().record(0x0293, Bytes().u16(0x0001).u8(0).u8(0xFF));   // one with a name of its own
+    const Bytes xfs = xf(0, 1).add(xf(0, 0));
+    const auto width = [](const Bytes& records) { return read(sheet_8({}, records)).default_column_width; };
+    EXPECT_EQ(width(Bytes(fonts).add(xfs)), 102.0);
+    EXPECT_EQ(width(format_8(164, "0.0").add(format_8(165, "0.00")).add(fonts).add(xfs)), 102.0);
+    EXPECT_EQ(width(Bytes(fonts).add(format_8(164, "0.0")).add(xfs).add(normal)), 102.0);
+    EXPECT_EQ(width(Bytes(fonts).add(xfs).add(other)), 102.0);
+    EXPECT_EQ(width(Bytes(fonts).add(xfs).add(own)), 102.0);
+    EXPECT_EQ(width(Bytes(fonts).add(xfs).add(Bytes().record(0x0293, Bytes().u16(0x8001).u8(0).u8(0xFF)))), 48.0);
+    EXPECT_EQ(width(Bytes(fonts).add(xfs).add(Bytes().record(0x0293, Bytes().u16(0xF001).u8(0).u8(0xFF)))), 48.0);
+    EXPECT_EQ(width(Bytes(fonts).add(xfs).add(Bytes().record(0x0293, Bytes().u16(0x8009).u8(0).u8(0xFF)))), 48.0);
+    EXPECT_EQ(width(Bytes(fonts).add(xf(0, 9))), 48.0);
+}
+
+TEST(XlsWerkmap, lettertypen_van_elke_versie_geven_de_breedte) {
+    const Bytes name = Bytes().u8(5).narrow("Arial");
+    const auto width = [](const Bytes& file) { return read(file).default_column_width; };
+    Bytes first = Bytes().record(0x0009, Bytes().u16(2).u16(worksheet));
+    first.record(0x0031, Bytes().u16(400).zeros(2).add(name)).record(0x000A);
+    EXPECT_EQ(width(first), 102.0);
+    Bytes third = Bytes().record(0x0209, Bytes().u16(3).u16(worksheet).u16(0));
+    third.record(0x0231, Bytes().u16(400).zeros(4).add(name)).record(0x0243, Bytes().zeros(12)).record(0x000A);
+    EXPECT_EQ(width(third), 102.0);
+    Bytes fourth = Bytes().record(0x0409, Bytes().u16(4).u16(worksheet).u16(0));
+    fourth.record(0x0231, Bytes().u16(400).zeros(4).add(name)).record(0x0443, Bytes().zeros(12)).record(0x000A);
+    EXPECT_EQ(width(fourth), 102.0);
+    Bytes fifth = Bytes().record(0x0809, bof_5(worksheet));
+    fifth.record(0x0031, Bytes().u16(400).zeros(12).add(name)).add(xf(0)).record(0x000A);
+    EXPECT_EQ(width(fifth), 102.0);
+}
+
+TEST(XlsWerkmap, stijlen_van_elke_versie_wijzen_hun_opmaak_aan) {
+    const auto code_of = [](const Bytes& file) {
+        const auto workbook = open_xls(file.bytes());
+        const auto sheet = (*workbook)->read_sheet(0);
+        return std::string((*workbook)->formats()[sheet->cells.at(0).format]);
+    };
+    const auto format = [](std::string_view code, unsigned head) {
+        Bytes data;
+        data.zeros(head).u8(static_cast<unsigned>(code.size())).narrow(code);
+        return data;
+    };
+    Bytes third = Bytes().record(0x0209, Bytes().u16(3).u16(worksheet).u16(0));
+    third.record(0x001E, format("0.0", 0)).record(0x001E, format("0.00", 0));
+    third.record(0x0243, Bytes().u8(0).u8(1).zeros(10)).record(0x0243, Bytes().u8(0).u8(0).zeros(10));
+    EXPECT_EQ(code_of(Bytes(third).add(number(0, 0, 1, 0)).record(0x000A)), "0.00");
+    EXPECT_EQ(code_of(Bytes(third).add(number(0, 0, 1, 1)).record(0x000A)), "0.0");
+    EXPECT_EQ(code_of(Bytes(third).add(number(0, 0, 1, 2)).record(0x000A)), "");
+    Bytes fourth = Bytes().record(0x0409, Bytes().u16(4).u16(worksheet).u16(0));
+    fourth.record(0x041E, format("0.0", 2)).record(0x041E, format("0.00", 2));
+    fourth.record(0x0443, Bytes().u8(0).u8(1).zeros(10)).record(0x0443, Bytes().u8(0).u8(7).zeros(10));
+    EXPECT_EQ(code_of(Bytes(fourth).add(number(0, 0, 1, 0)).record(0x000A)), "0.00");
+    EXPECT_EQ(code_of(Bytes(fourth).add(number(0, 0, 1, 1)).record(0x000A)), ""); // no built-in ones yet
+    Bytes fifth = Bytes().record(0x0809, bof_5(worksheet));
+    fifth.record(0x041E, Bytes().u16(164).u8(3).narrow("0.0")).add(xf(164)).add(xf(9)).add(xf(165));
+    EXPECT_EQ(code_of(Bytes(fifth).add(number(0, 0, 1, 0)).record(0x000A)), "0.0");
+    EXPECT_EQ(code_of(Bytes(fifth).add(number(0, 0, 1, 1)).record(0x000A)), "0%");
+    EXPECT_EQ(code_of(Bytes(fifth).add(number(0, 0, 1, 2)).record(0x000A)), "General");
+}
+
 TEST(XlsWerkmap, het_vierde_lettertype_bestaat_niet) {
     const Bytes small = font_8(10, "Arial");
     Bytes records = Bytes(small).add(small).add(small).add(small).add(font_8(20, "Arial")).add(xf(0, 5));

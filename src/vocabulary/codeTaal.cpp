@@ -115,14 +115,6 @@ std::string opgezocht(std::span<const Vertaling> tabel, std::string_view woord) 
     return std::string(gevonden == tabel.end() ? woord : gevonden->anders);
 }
 
-// The first character, which may take more than one byte.
-std::string_view eerste_letter(std::string_view tekst) {
-    std::size_t lengte = std::min<std::size_t>(tekst.size(), 1);
-    while (lengte < tekst.size() && (static_cast<unsigned char>(tekst[lengte]) & 0xC0U) == 0x80U)
-        ++lengte;
-    return tekst.substr(0, lengte);
-}
-
 } // namespace
 
 std::string vertaal(std::string_view woord, std::string_view taal) {
@@ -133,10 +125,10 @@ std::string vertaal(std::string_view woord, std::string_view taal) {
     else if (gekozen == "KWPN")
         resultaat = opgezocht(stamboek, woord);
 
-    const std::string_view begin = eerste_letter(woord);
-    if (begin != upper_case(begin)) return resultaat;
-    const std::string_view letter = eerste_letter(resultaat);
-    return upper_case(letter) + resultaat.substr(letter.size());
+    // The words of the tables begin with plain letters; a byte of any other character has no upper case.
+    const std::string_view begin = woord.substr(0, 1);
+    if (begin == upper_case(begin)) resultaat.replace(0, 1, upper_case(std::string_view(resultaat).substr(0, 1)));
+    return resultaat;
 }
 
 } // namespace tavelo

@@ -9,6 +9,10 @@
 #include <chrono>
 #include <filesystem>
 
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
 namespace tavelo {
 namespace {
 
@@ -99,6 +103,18 @@ TEST(Bestand, een_te_groot_bestand_wordt_aan_zijn_grootte_geweigerd) {
 #ifndef _WIN32
 
 using test::ReadFaults;
+
+TEST(Bestand, in_een_programma_zonder_invoer_wordt_er_ook_gelezen) {
+    const test::TempFolder map;
+    const std::string pad = map.write("proef", "inhoud");
+    const int invoer = dup(STDIN_FILENO);
+    close(STDIN_FILENO); // the file gets its number, which is 0
+    EXPECT_EQ(lees_bestand(pad, ruim), "inhoud");
+    if (invoer >= 0) {
+        dup2(invoer, STDIN_FILENO);
+        close(invoer);
+    }
+}
 
 TEST(Bestand, een_te_groot_bestand_wordt_niet_gelezen) {
     const test::TempFolder map;

@@ -59,6 +59,17 @@ TEST(Dagverslag, een_hele_rij_staat_onder_dezelfde_titels) {
               (Teksten{"14:02", "verwijderd", "", "", "Klaas", "HC", "Bles", "Vader", "Club", "L", "A"}));
 }
 
+TEST(Dagverslag, wat_achter_de_laatste_kolom_staat_valt_weg) {
+    Dagverslag verslag;
+    verslag.begin(twee_over_twee);
+    verslag.regel("verwijderd\t\tKlaas\tHC\tBles\tVader\tClub\tL\tA\tte veel\tveel te veel");
+    verslag.einde();
+    ASSERT_EQ(verslag.rijen().size(), 1U);
+    EXPECT_EQ(verslag.rijen()[0].teksten,
+              (Teksten{"14:02", "verwijderd", "", "", "Klaas", "HC", "Bles", "Vader", "Club", "L", "A"}));
+    EXPECT_EQ(verslag.rijen()[0].anders, decltype(VerslagRij::anders){});
+}
+
 TEST(Dagverslag, de_nieuwste_herlezing_staat_boven) {
     Dagverslag verslag;
     verslag.begin({2026, 6, 13, 9, 5, 0});

@@ -121,6 +121,8 @@ TEST(OpMonitor, zonder_rij_record_en_naam_staat_er_geen_combinatie) {
         wand.toon(9, 0);
         EXPECT_FALSE(wand.op.combinatie) << extensie;
         EXPECT_EQ(wand.hoe(), Verouderd::nee) << extensie;
+        wand.programma.lijst = {1, "/shows/ander", 2, false};
+        EXPECT_EQ(wand.hoe(), Verouderd::nee) << extensie; // nothing is no older in another list
         wand.zet_rij("0", "");
         wand.toon(0, 1); // a row without a name
         EXPECT_TRUE(wand.op.combinatie) << extensie;

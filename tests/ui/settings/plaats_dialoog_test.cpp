@@ -20,6 +20,11 @@ TEST(PlaatsDialoog, anders_eronder_of_erboven) {
     EXPECT_EQ(plaats_dialoog(scherm, {300, 560, 1700, 1060}, 700, 500), (SchermPunt{300, 60}));
 }
 
+TEST(PlaatsDialoog, een_enkel_punt_van_het_voorbeeld_is_al_te_veel_bedekt) {
+    EXPECT_EQ(plaats_dialoog(scherm, {600, 200, 1221, 201}, 700, 500), (SchermPunt{600, 201}));
+    EXPECT_EQ(plaats_dialoog(scherm, {700, 200, 1221, 201}, 700, 500), (SchermPunt{0, 200}));
+}
+
 TEST(PlaatsDialoog, altijd_helemaal_op_het_scherm) {
     EXPECT_EQ(plaats_dialoog(scherm, {100, 900, 900, 1080}, 700, 500), (SchermPunt{900, 580}));
 }

@@ -171,6 +171,21 @@ TEST(Grid, wie_dezelfde_cellen_blijft_wijzigen_houdt_het_geheugen_klein) {
     EXPECT_EQ(grid.text(99, 1), std::string(100, static_cast<char>('a' + 1999 % 26)));
 }
 
+TEST(Grid, wie_rijen_blijft_vullen_en_weghalen_houdt_het_geheugen_klein) {
+    for (const bool een_voor_een : {true, false}) {
+        Grid grid = grid_van(100, 3);
+        const std::size_t voor = test::heap_bytes();
+        for (int keer = 0; keer < 20'000; ++keer) {
+            grid.set_text(grid.append_row(), 1, std::string(100, 'x'));
+            if (een_voor_een)
+                grid.remove_row(100);
+            else
+                grid.set_rows(100);
+        }
+        EXPECT_LT(test::heap_bytes(), voor + 200'000) << een_voor_een; // of two million bytes that were written
+    }
+}
+
 TEST(Grid, de_huidige_cel_blijft_binnen_het_grid) {
     Grid grid = grid_met("abc");
     grid.set_columns(3);

@@ -70,6 +70,7 @@ TEST(Number, niet_de_macht_alleen_zegt_hoe_groot_een_getal_is) {
     const std::string nullen(400, '0');
     EXPECT_EQ(leading_number("0." + nullen + "1"), 0);
     EXPECT_EQ(leading_number("0." + nullen + "1e9"), 0);
+    EXPECT_EQ(leading_number("0.01e+999"), std::numeric_limits<double>::infinity());
     EXPECT_EQ(leading_number("0." + nullen + "1e401"), 1);
     EXPECT_EQ(leading_number("1" + nullen + "e-5"), std::numeric_limits<double>::infinity());
     EXPECT_EQ(leading_number("1" + nullen + ".5"), std::numeric_limits<double>::infinity());
@@ -107,6 +108,9 @@ TEST(Number, een_getal_als_tekst_is_gewoon_decimaal) {
     EXPECT_EQ(number_text(1.5), "1.5");
     EXPECT_EQ(number_text(-12.25), "-12.25");
     EXPECT_EQ(number_text(123456789012345), "123456789012345");
+    EXPECT_EQ(number_text(-999999999999999), "-999999999999999");
+    EXPECT_EQ(number_text(1e15), "1e+15"); // from here on in the shortest way
+    EXPECT_EQ(number_text(-1e300), "-1e+300");
     EXPECT_EQ(leading_number(number_text(5e-324)), 5e-324); // longest of all
 }
 

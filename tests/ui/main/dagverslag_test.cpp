@@ -83,6 +83,11 @@ TEST(Dagverslag, de_nieuwste_herlezing_staat_boven) {
     for (const VerslagRij& rij : verslag.rijen())
         gelezen.push_back(rij.teksten[0] + " " + rij.teksten[4]);
     EXPECT_EQ(gelezen, (std::vector<std::string>{"09:07 Kees", "09:07 Klaas", "09:05 Piet"}));
+    EXPECT_EQ(verslag.herlezingen(), 2);
+    verslag.wis();
+    EXPECT_EQ(verslag.herlezingen(), 0);
+    EXPECT_EQ(verslag.samenvatting(), "");
+    EXPECT_TRUE(verslag.rijen().empty());
 }
 
 TEST(Dagverslag, een_herlezing_zonder_wijziging_zegt_dat_en_laat_het_verslag_staan) {

@@ -137,6 +137,11 @@ TEST(PlekVoorbeeld, in_een_venster_dat_er_te_klein_voor_is_staat_hij_op_zijn_uit
     ASSERT_GT(boven, uiterste.boven);
     EXPECT_EQ(plek_voorbeeld(bedoeld, {20490, boven + 1350 + 120}, uiterste, muur).boven, boven);
     EXPECT_EQ(plek_voorbeeld(bedoeld, {20490, boven + 1350 + 119}, uiterste, muur).boven, uiterste.boven);
+    constexpr Maat staand{1080, 1920};
+    const int links = plek_voorbeeld(bedoeld, bedoeld, uiterste, staand).links;
+    EXPECT_EQ(links, 15713);
+    EXPECT_EQ(plek_voorbeeld(bedoeld, {links + 2400 + 120, 10400}, uiterste, staand).links, links);
+    EXPECT_EQ(plek_voorbeeld(bedoeld, {links + 2400 + 119, 10400}, uiterste, staand).links, uiterste.links);
 }
 
 } // namespace

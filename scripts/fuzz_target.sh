@@ -26,6 +26,7 @@ case $target in
 *xlsx*) mapfile -t files < <(find examples tests fuzz -type f -name '*.xlsx*'); seed_with "${files[@]}" ;;
 *xls*) mapfile -t files < <(find examples tests -type f -name '*.xls'); seed_with "${files[@]}" ;;
 *lookalike*) seed_with fuzz/seeds/lookalike/* ;;
+*xml*) seed_with fuzz/seeds/*.xlsx_parts fuzz/seeds/lookalike/*ml ;;
 *schedule*) seed_with examples/*.rst ;;
 *merge*) cat examples/dressuur.rst examples/springen.rst >"$seeds/ander"; cat examples/mennen.rst{,} >"$seeds/zelfde" ;;
 esac

@@ -183,6 +183,15 @@ std::u32string code_points(std::string_view text) {
     return result;
 }
 
+bool is_utf8(std::string_view text) {
+    while (!text.empty()) {
+        const Decoded next = decode(text);
+        if (next.length == 1 && !is_plain(text.front())) return false;
+        text.remove_prefix(next.length);
+    }
+    return true;
+}
+
 void append_utf8(std::string& text, char32_t code_point) {
     const auto add = [&](char32_t byte) { text.push_back(static_cast<char>(static_cast<unsigned char>(byte))); };
     const auto add_continued = [&](unsigned shift) { add(0x80U | ((code_point >> shift) & 0x3FU)); };

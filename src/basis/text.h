@@ -53,5 +53,7 @@ void from_windows_1252(std::string_view bytes, std::string& text);
 // The code points of a UTF-8 text; a byte that is not UTF-8 gives U+FFFD.
 [[nodiscard]] std::u32string code_points(std::string_view text);
 void append_utf8(std::string& text, char32_t code_point);
+// As strict as the standard: no overlong form, no half of a surrogate pair, nothing beyond U+10FFFF.
+[[nodiscard]] bool is_utf8(std::string_view text);
 
 } // namespace tavelo

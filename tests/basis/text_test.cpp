@@ -158,6 +158,17 @@ TEST(Text, de_grenzen_van_elke_lengte_in_utf_8_worden_goed_gelezen_en_geschreven
     }
 }
 
+TEST(Text, utf_8_is_alleen_wat_de_standaard_zo_noemt) {
+    for (const char* is :
+         {"", "a", "\x7F", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xED\x9F\xBF", "\xEE\x80\x80", "\xEF\xBF\xBD",
+          "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF", "Zo\xC3\xAB \xE2\x82\xAC \xF0\x9F\x90\xB4"})
+        EXPECT_TRUE(is_utf8(is)) << is;
+    for (const char* is_not : {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xC2", "\xC2\x7F", "\xC2\xC0", "\xE0\x9F\xBF",
+                               "\xE2\x82", "\xED\xA0\x80", "\xF0\x8F\xBF\xBF", "\xF0\x9F\x90", "\xF4\x90\x80\x80",
+                               "\xF5\x80\x80\x80", "\xFF", "Zo\xEB van"})
+        EXPECT_FALSE(is_utf8(is_not)) << is_not;
+}
+
 TEST(Text, het_laatste_teken_kan_de_hele_tekst_zijn) {
     EXPECT_EQ(last("€", 1), "€");
     EXPECT_EQ(last("😀", 1), "😀");

@@ -16,30 +16,6 @@ constexpr std::size_t head_size = 4096; // where a page says its character set
 
 unsigned byte_of(char c) { return static_cast<unsigned char>(c); }
 
-// As strict as the standard: no overlong form, no half of a surrogate pair, nothing beyond U+10FFFF.
-bool is_utf8(std::string_view text) {
-    for (std::size_t i = 0; i < text.size();) {
-        const unsigned lead = byte_of(text[i]);
-        const std::size_t length = lead < 0x80   ? 1
-                                   : lead < 0xC2 ? 0
-                                   : lead < 0xE0 ? 2
-                                   : lead < 0xF0 ? 3
-                                   : lead < 0xF5 ? 4
-                                                 : 0;
-        if (length == 0 || text.size() - i < length) return false;
-        for (std::size_t k = 1; k < length; ++k)
-            if ((byte_of(text[i + k]) & 0xC0U) != 0x80U) return false;
-        if (length > 2) {
-            const unsigned second = byte_of(text[i + 1]);
-            if ((lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) || (lead == 0xF0 && second < 0x90) ||
-                (lead == 0xF4 && second > 0x8F))
-                return false;
-        }
-        i += length;
-    }
-    return true;
-}
-
 enum class ByteOrder { little, big };
 
 std::string from_utf16(std::string_view bytes, ByteOrder order) {

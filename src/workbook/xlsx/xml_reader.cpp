@@ -1,25 +1,18 @@
 #include "workbook/xlsx/xml_reader.h"
 
-#include "basis/text.h"
+#include "workbook/xlsx/expat_xml.h"
 #include "workbook/xlsx/package.h"
-
-#include <expat.h>
+#include "workbook/xlsx/plain_xml.h"
 
 #include <charconv>
 #include <cmath>
-#include <memory>
 #include <new>
-#include <span>
 #include <string>
-#include <type_traits>
+#include <utility>
 
 namespace tavelo {
 
 namespace {
-
-constexpr unsigned deepest_level = 200;
-// An unfinished tag is scanned again with every chunk, so a tag without an end would take quadratic time.
-constexpr XML_Index longest_tag = 1024 * 1024;
 
 template <class Number>
 std::optional<Number> number_in(std::string_view text) {
@@ -30,134 +23,124 @@ std::optional<Number> number_in(std::string_view text) {
     return value;
 }
 
-struct FreeParser {
-    void operator()(std::remove_pointer_t<XML_Parser>* parser) const { XML_ParserFree(parser); }
-};
+bool is_blank(std::string_view text) { return trim_xml_space(text).empty(); }
 
-// One part on its way through expat.
+// One part on its way to its handler.
 class Reading {
   public:
-    explicit Reading(XmlHandler& handler);
+    explicit Reading(XmlHandler& handler) : delivery_(handler) {}
 
     // False when the reading has ended, for whatever reason.
-    bool feed(std::span<const char> chunk);
-    std::expected<void, OpenFailure> finish();
-
-    void start(const XML_Char* name, const XML_Char** attributes);
-    void end(const XML_Char* name);
-    void text(std::string_view piece);
-    void refuse();
-
-  private:
-    // No exception may cross expat, which is C.
-    template <class Step>
-    void hand_on(Step step) {
-        if (out_of_memory_) return; // it may still call when it was told to stop
-        try {
-            step();
-        } catch (const std::bad_alloc&) {
-            out_of_memory_ = true;
-        }
-        if (out_of_memory_) refuse();
+    bool feed(std::string_view bytes) {
+        return attempt([&] { return expat_ ? expat_->feed(bytes) : read(bytes); });
+    }
+    std::expected<void, OpenFailure> finish() {
+        attempt([&] { return expat_ ? expat_->finish() : root_is_met_ && open_.empty() && is_blank(rest_); });
+        if (out_of_memory_) return std::unexpected(OpenFailure::no_memory);
+        if (const auto why = delivery_.stopped()) return std::unexpected(*why);
+        if (!goes_well_) return std::unexpected(OpenFailure::damaged);
+        return {};
     }
 
-    std::unique_ptr<std::remove_pointer_t<XML_Parser>, FreeParser> parser_;
-    XmlHandler& handler_;
-    XML_Index fed_ = 0;
-    unsigned depth_ = 0;
-    bool well_formed_ = true;
+  private:
+    template <class Step>
+    bool attempt(Step step) {
+        if (!goes_well_) return false;
+        try {
+            goes_well_ = step();
+        } catch (const std::bad_alloc&) {
+            out_of_memory_ = true;
+            goes_well_ = false;
+        }
+        return goes_well_;
+    }
+
+    bool read(std::string_view bytes);
+    bool go_on_with_expat();
+    bool deliver(const XmlToken& token, std::span<const XmlAttribute> attributes);
+    void open(std::string_view name);
+    bool close(std::string_view name);
+
+    XmlDelivery delivery_;
+    std::optional<ExpatXml> expat_; // once something unusual was met
+    std::string rest_;              // what is not delivered yet
+    std::string open_;              // the elements that are open, as tags: "<worksheet><sheetData>"
+    bool root_is_met_ = false;
+    bool goes_well_ = true;
     bool out_of_memory_ = false;
 };
 
-Reading& reading_of(void* user_data) { return *static_cast<Reading*>(user_data); }
-
-void XMLCALL on_start(void* user_data, const XML_Char* name, const XML_Char** attributes) {
-    reading_of(user_data).start(name, attributes);
+bool Reading::read(std::string_view bytes) {
+    // What does not fit in there is not plain: it must not be looked through again with every chunk.
+    constexpr std::size_t most_kept = 64 * 1024;
+    rest_ += bytes;
+    const auto begin = root_is_met_ ? 0 : plain_prolog(rest_);
+    if (!begin) return go_on_with_expat();
+    PlainXml xml(std::string_view(rest_).substr(*begin));
+    XmlToken token = xml.next();
+    for (; token.kind < XmlToken::Kind::partial; token = xml.next())
+        if (!deliver(token, xml.attributes())) return false;
+    if (root_is_met_) rest_.erase(0, *begin + xml.place());
+    const bool is_plain = root_is_met_ && token.kind == XmlToken::Kind::partial && rest_.size() <= most_kept;
+    return is_plain || go_on_with_expat();
 }
 
-void XMLCALL on_end(void* user_data, const XML_Char* name) { reading_of(user_data).end(name); }
-
-void XMLCALL on_text(void* user_data, const XML_Char* text, int length) {
-    reading_of(user_data).text(std::string_view(text, static_cast<std::size_t>(length)));
+// Whatever stands behind a closed root, it is expat that knows whether it may.
+bool Reading::go_on_with_expat() {
+    expat_.emplace(delivery_, root_is_met_ && open_.empty() ? "<root/>" : open_);
+    return expat_->feed(std::exchange(rest_, {}));
 }
 
-void XMLCALL on_doctype(void* user_data, const XML_Char*, const XML_Char*, const XML_Char*, int) {
-    reading_of(user_data).refuse();
-}
-
-// Encodings that expat does not have of its own. UTF-8, UTF-16 and Latin 1 it has.
-int XMLCALL on_unknown_encoding(void*, const XML_Char* name, XML_Encoding* encoding) {
-    const std::string lower = lower_case(name);
-    if (lower != "windows-1252" && lower != "cp1252") return XML_STATUS_ERROR;
-    for (int byte = 0; byte < 256; ++byte) {
-        const char one = static_cast<char>(static_cast<unsigned char>(byte));
-        encoding->map[byte] = static_cast<int>(code_points(from_windows_1252({&one, 1})).front());
+bool Reading::deliver(const XmlToken& token, std::span<const XmlAttribute> attributes) {
+    if (open_.empty() && root_is_met_) return token.kind == XmlToken::Kind::text && is_blank(token.text);
+    switch (token.kind) {
+    case XmlToken::Kind::start_tag:
+        root_is_met_ = true;
+        open(token.text);
+        return delivery_.start(token.text, attributes);
+    case XmlToken::Kind::empty_tag:
+        root_is_met_ = true;
+        return delivery_.start(token.text, attributes) && delivery_.end(token.text);
+    case XmlToken::Kind::end_tag:
+        return close(token.text) && delivery_.end(token.text);
+    default:
+        delivery_.text(token.text);
+        return true;
     }
-    encoding->data = nullptr;
-    encoding->convert = nullptr;
-    encoding->release = nullptr;
-    return XML_STATUS_OK;
 }
 
-Reading::Reading(XmlHandler& handler) : parser_(XML_ParserCreate(nullptr)), handler_(handler) {
-    if (!parser_) return;
-    XML_SetUserData(parser_.get(), this);
-    XML_SetElementHandler(parser_.get(), on_start, on_end);
-    XML_SetCharacterDataHandler(parser_.get(), on_text);
-    XML_SetUnknownEncodingHandler(parser_.get(), on_unknown_encoding, nullptr);
-    XML_SetStartDoctypeDeclHandler(parser_.get(), on_doctype);
+void Reading::open(std::string_view name) {
+    open_ += '<';
+    open_ += name;
+    open_ += '>';
 }
 
-bool Reading::feed(std::span<const char> chunk) {
-    if (!parser_ || !well_formed_) return false;
-    well_formed_ = XML_Parse(parser_.get(), chunk.data(), static_cast<int>(chunk.size()), XML_FALSE) == XML_STATUS_OK;
-    fed_ += static_cast<XML_Index>(chunk.size());
-    if (well_formed_ && fed_ - XML_GetCurrentByteIndex(parser_.get()) > longest_tag) well_formed_ = false;
-    return well_formed_;
+// False when it is not the last one opened.
+bool Reading::close(std::string_view name) {
+    const std::size_t size = name.size() + 2;
+    if (open_.size() < size) return false;
+    const std::size_t begin = open_.size() - size;
+    if (open_[begin] != '<' || std::string_view(open_).substr(begin + 1, name.size()) != name) return false;
+    open_.resize(begin);
+    return true;
 }
-
-std::expected<void, OpenFailure> Reading::finish() {
-    if (!parser_) return std::unexpected(OpenFailure::no_memory);
-    if (well_formed_) well_formed_ = XML_Parse(parser_.get(), nullptr, 0, XML_TRUE) == XML_STATUS_OK;
-    if (out_of_memory_ || XML_GetErrorCode(parser_.get()) == XML_ERROR_NO_MEMORY)
-        return std::unexpected(OpenFailure::no_memory);
-    if (const auto why = handler_.stopped()) return std::unexpected(*why);
-    if (!well_formed_) return std::unexpected(OpenFailure::damaged);
-    return {};
-}
-
-void Reading::start(const XML_Char* name, const XML_Char** attributes) {
-    if (++depth_ > deepest_level) return refuse();
-    hand_on([&] { handler_.element_start(local_name(name), depth_, XmlAttributes(attributes)); });
-    if (handler_.stopped()) refuse();
-}
-
-void Reading::end(const XML_Char* name) {
-    hand_on([&] { handler_.element_end(local_name(name), depth_--); });
-    if (handler_.stopped()) refuse();
-}
-
-void Reading::text(std::string_view piece) {
-    hand_on([&] { handler_.text(piece); });
-}
-
-// expat then answers an error to whoever fed it.
-void Reading::refuse() { XML_StopParser(parser_.get(), XML_FALSE); }
 
 } // namespace
 
 std::string_view trim_xml_space(std::string_view text) {
-    constexpr std::string_view space = " \t\r\n";
-    const auto first = text.find_first_not_of(space);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(space) - first + 1);
+    const auto is_space = [](char byte) { return byte == ' ' || byte == '\t' || byte == '\r' || byte == '\n'; };
+    while (!text.empty() && is_space(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && is_space(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 std::optional<std::string_view> XmlAttributes::find(std::string_view name) const {
-    for (const char* const* pair = pairs_; *pair != nullptr; pair += 2) {
-        const std::string_view full = pair[0];
+    for (const XmlAttribute& attribute : all_) {
+        const std::string_view full = attribute.name;
         if (!full.ends_with(name)) continue;
-        if (full.size() == name.size() || full[full.size() - name.size() - 1] == ':') return pair[1];
+        if (full.size() == name.size() || full[full.size() - name.size() - 1] == ':') return attribute.value;
     }
     return std::nullopt;
 }
@@ -181,7 +164,9 @@ bool XmlAttributes::is_true(std::string_view name) const {
 std::expected<void, OpenFailure> read_xml(const Package& package, std::string_view part, std::uint64_t limit,
                                           XmlHandler& handler) {
     Reading reading(handler);
-    const auto unpacked = package.read(part, limit, [&](std::span<const char> chunk) { return reading.feed(chunk); });
+    const auto unpacked = package.read(part, limit, [&](std::span<const char> chunk) {
+        return reading.feed({chunk.data(), chunk.size()});
+    });
     if (!unpacked) return unpacked;
     return reading.finish();
 }

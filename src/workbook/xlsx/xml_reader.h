@@ -1,6 +1,10 @@
 // Reads one XML part of a package as a stream of events. Names are local names: the prefix in front of ":" is dropped,
 // because writers choose their own and because the strict and the transitional form differ in nothing but their
 // namespaces.
+//
+// Plain markup (xlsx/plain_xml.h) is read by ourselves. From the first thing that is not plain up to the end of the
+// part it is expat that reads, so that what is XML and what is not is for expat to say. A handler cannot tell which of
+// the two it hears.
 #pragma once
 
 #include "workbook/book/model.h"
@@ -8,6 +12,7 @@
 #include <cstdint>
 #include <expected>
 #include <optional>
+#include <span>
 #include <string_view>
 
 namespace tavelo {
@@ -20,15 +25,20 @@ class Package;
     return colon == std::string_view::npos ? name : name.substr(colon + 1);
 }
 
+struct XmlAttribute {
+    std::string_view name; // with its prefix
+    std::string_view value;
+};
+
+// Those of one tag, in its order.
 class XmlAttributes {
   public:
-    // `pairs`: name, value, name, value, null.
-    explicit XmlAttributes(const char* const* pairs) : pairs_(pairs) {}
-    // Calls `use` with the local name and the value of each, in the order of the tag.
+    explicit XmlAttributes(std::span<const XmlAttribute> all) : all_(all) {}
+    // Calls `use` with the local name and the value of each.
     template <class Use>
     void each(Use use) const {
-        for (const char* const* pair = pairs_; *pair != nullptr; pair += 2)
-            use(local_name(pair[0]), std::string_view(pair[1]));
+        for (const XmlAttribute& attribute : all_)
+            use(local_name(attribute.name), attribute.value);
     }
     // The value of the attribute with this local name.
     [[nodiscard]] std::optional<std::string_view> find(std::string_view name) const;
@@ -39,7 +49,7 @@ class XmlAttributes {
     [[nodiscard]] bool is_true(std::string_view name) const;
 
   private:
-    const char* const* pairs_;
+    std::span<const XmlAttribute> all_;
 };
 
 class XmlHandler {

@@ -98,9 +98,9 @@ TEST(Xml, houdt_op_wanneer_de_lezer_genoeg_heeft) {
 }
 
 TEST(XmlAttributen, worden_gevonden_op_hun_naam) {
-    const std::array<const char*, 15> pairs{"r:id", "1",   "xid", "2",    "id", "3", "n",    " 7 ",
-                                            "d",    "1.5", "t",   "true", "o",  "1", nullptr};
-    const XmlAttributes attributes(pairs.data());
+    const auto all = std::to_array<XmlAttribute>(
+        {{"r:id", "1"}, {"xid", "2"}, {"id", "3"}, {"n", " 7 "}, {"d", "1.5"}, {"t", "true"}, {"o", "1"}});
+    const XmlAttributes attributes(all);
     EXPECT_EQ(attributes.find("id"), "1");
     EXPECT_EQ(attributes.find("xid"), "2");
     EXPECT_EQ(attributes.find("r:id"), "1");
@@ -123,16 +123,16 @@ TEST(XmlAttributen, worden_gevonden_op_hun_naam) {
 
 TEST(XmlAttributen, zijn_alleen_getallen_als_ze_het_helemaal_zijn) {
     for (const auto* text : {"", "x", "1x", "-1", "1.5", "4294967296", "+1", "1 2"}) {
-        const std::array<const char*, 3> pairs{"n", text, nullptr};
-        EXPECT_EQ(XmlAttributes(pairs.data()).number("n"), std::nullopt) << text;
+        const std::array one{XmlAttribute{"n", text}};
+        EXPECT_EQ(XmlAttributes(one).number("n"), std::nullopt) << text;
     }
     for (const auto* text : {"", "x", "1x", "inf", "nan", "1e999", "+1"}) {
-        const std::array<const char*, 3> pairs{"n", text, nullptr};
-        EXPECT_EQ(XmlAttributes(pairs.data()).decimal("n"), std::nullopt) << text;
+        const std::array one{XmlAttribute{"n", text}};
+        EXPECT_EQ(XmlAttributes(one).decimal("n"), std::nullopt) << text;
     }
-    const std::array<const char*, 3> largest{"n", "4294967295", nullptr};
-    EXPECT_EQ(XmlAttributes(largest.data()).number("n"), 4294967295U);
-    EXPECT_EQ(XmlAttributes(largest.data()).decimal("n"), 4294967295.0);
+    const std::array largest{XmlAttribute{"n", "4294967295"}};
+    EXPECT_EQ(XmlAttributes(largest).number("n"), 4294967295U);
+    EXPECT_EQ(XmlAttributes(largest).decimal("n"), 4294967295.0);
 }
 
 TEST(XmlWitruimte, valt_aan_de_einden_weg) {

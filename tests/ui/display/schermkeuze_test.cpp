@@ -128,6 +128,12 @@ TEST(PlaatsNaast, de_grootste_plaats_wint_van_de_eerste) {
     EXPECT_EQ(plaats_naast(scherm, {0, 0, 1520, 580}, {10, 20, 140, 84}, wens), (Schermvlak{516, 580, 888, 500}));
 }
 
+TEST(PlaatsNaast, op_een_scherm_boven_het_eerste_telt_de_ruimte_vanaf_zijn_bovenrand) {
+    const Schermvlak scherm{0, -1000, 1280, 800};
+    EXPECT_EQ(plaats_naast(scherm, scherm, {80, -550, 140, 100}, wens), (Schermvlak{640, -1000, 640, 360}));
+    EXPECT_EQ(plaats_naast(scherm, scherm, {80, -950, 140, 100}, wens), (Schermvlak{640, -560, 640, 360}));
+}
+
 TEST(PlaatsNaast, met_evenveel_ruimte_boven_als_onder_het_nummervak_staat_hij_eronder) {
     EXPECT_EQ(plaats_naast({0, 0, 1280, 800}, {0, 0, 1280, 800}, {80, 350, 140, 100}, wens),
               (Schermvlak{658, 450, 622, 350}));

@@ -127,6 +127,9 @@ TEST(OpMonitor, zonder_rij_record_en_naam_staat_er_geen_combinatie) {
         wand.toon(0, 1); // a row without a name
         EXPECT_TRUE(wand.op.combinatie) << extensie;
         EXPECT_EQ(wand.rij(), 1) << extensie;
+        wand.toon(0, 1);
+        wand.programma.grdRooster.set_rows(1); // and is not found beyond the end
+        EXPECT_EQ(wand.rij(), std::nullopt) << extensie;
     }
 }
 

@@ -121,6 +121,60 @@ TEST(Versleuteling, aes) {
     EXPECT_EQ(hexadecimal(aes_cbc_decrypted(key, Bytes(16), standard)), "00112233445566778899aabbccddeeff");
 }
 
+Bytes from_hexadecimal(std::string_view digits) {
+    Bytes bytes;
+    for (std::size_t i = 0; i + 1 < digits.size(); i += 2)
+        bytes.push_back(static_cast<std::byte>(std::stoi(std::string(digits.substr(i, 2)), nullptr, 16)));
+    return bytes;
+}
+
+TEST(Versleuteling, elke_samenvatting_heeft_haar_naam) {
+    EXPECT_EQ(hexadecimal(digest("SHA1", {bytes_of("abc")})), "a9993e364706816aba3e25717850c26c9cd0d89d");
+    EXPECT_EQ(hexadecimal(digest("SHA256", {bytes_of("abc")})),
+              "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+    EXPECT_EQ(hexadecimal(digest("SHA384", {bytes_of("abc")})),
+              "cb00753f45a35e8bb5a03d699ac65007272c32ab0eded1631a8b605a43ff5bed8086072ba1e7cc2358baeca134c825a7");
+    EXPECT_EQ(hexadecimal(digest("SHA512", {bytes_of("abc")})),
+              "ddaf35a193617abacc417349ae20413112e6fa4e89a97ea20a9eeee64b55d39a2192992a274fc1a836ba3c23a3feebbd454d4423"
+              "643ce80e2a9ac94fa54ca49f");
+    for (const auto* name : {"", "SHA", "sha1", "SHA-1", "SHA2", "SHA5120"})
+        EXPECT_EQ(digest(name, {bytes_of("abc")}), std::nullopt) << name;
+}
+
+// The examples of the standard, of each strength.
+TEST(Versleuteling, aes_van_elke_sterkte) {
+    const std::string_view plain = "00112233445566778899aabbccddeeff";
+    const std::string_view longest = "000102030405060708090a0b0c0d0e0f101112131415161718191a1b1c1d1e1f";
+    struct Example {
+        std::size_t key_size;
+        std::string_view locked;
+    };
+    for (const auto& [key_size, locked] :
+         {Example{16, "69c4e0d86a7b0430d8cdb78070b4c55a"}, Example{24, "dda97ca4864cdfe06eaf70a0ec0d7191"},
+          Example{32, "8ea2b7ca516745bfeafc49904b496089"}}) {
+        const Bytes key = from_hexadecimal(longest.substr(0, 2 * key_size));
+        const std::string twice = std::string(locked) + std::string(locked);
+        EXPECT_EQ(hexadecimal(aes_ecb_decrypted(key, from_hexadecimal(twice))),
+                  std::string(plain) + std::string(plain));
+        EXPECT_EQ(hexadecimal(aes_cbc_decrypted(key, from_hexadecimal(plain), from_hexadecimal(locked))),
+                  std::string(32, '0'));
+    }
+}
+
+TEST(Versleuteling, een_verkeerde_lengte_wordt_geweigerd) {
+    const Bytes key(16);
+    for (const std::size_t size : {1U, 15U, 17U, 31U, 33U}) {
+        EXPECT_EQ(aes_ecb_decrypted(key, Bytes(size)), std::nullopt) << size;
+        EXPECT_EQ(aes_cbc_decrypted(key, Bytes(16), Bytes(size)), std::nullopt) << size;
+    }
+    for (const std::size_t size : {0U, 15U, 17U, 23U, 25U, 31U, 33U}) {
+        EXPECT_EQ(aes_ecb_decrypted(Bytes(size), Bytes(16)), std::nullopt) << size;
+        EXPECT_EQ(aes_cbc_decrypted(Bytes(size), Bytes(16), Bytes(16)), std::nullopt) << size;
+        EXPECT_EQ(aes_cbc_decrypted(key, Bytes(size), Bytes(16)), std::nullopt) << size;
+    }
+    EXPECT_EQ(aes_cbc_decrypted(key, Bytes(16), Bytes(48))->size(), 48U);
+}
+
 TEST(Versleuteling, base64) {
     EXPECT_EQ(from_base64("Wm/Dqw=="), bytes_of("Zoë"));
     EXPECT_EQ(from_base64("YW1iZXI="), bytes_of("amber"));

@@ -125,6 +125,116 @@ TEST(XlsxBlad, opmaakcodes_van_de_werkmap_zelf_en_ingebouwde) {
     EXPECT_EQ(sheet.shown("F1"), "0,5");
 }
 
+TEST(XlsxBlad, een_kolom_zonder_begin_of_eind_telt_niet) {
+    const auto widths = [](const std::string& columns) {
+        return opened(XlsxMaker{.before_sheet_data = "<cols>" + columns + "</cols>", .styles = calibri}.bytes())
+            .sheet.column_widths;
+    };
+    EXPECT_EQ(widths(R"(<col max="3" width="9.140625"/>)"), std::vector<double>());
+    EXPECT_EQ(widths(R"(<col min="3" width="9.140625"/>)"), std::vector<double>());
+    EXPECT_EQ(widths(R"(<col min="0" max="3" width="9.140625"/>)"), std::vector<double>());
+    EXPECT_EQ(widths(R"(<col min="16385" max="16385" width="9.140625"/>)"), std::vector<double>());
+    EXPECT_EQ(widths(R"(<col min="2" max="2"/>)"), std::vector<double>());
+    EXPECT_EQ(widths(R"(<kol min="1" max="1" width="9"/><x><col min="1" max="1" width="9"/></x>)"),
+              std::vector<double>());
+    EXPECT_EQ(widths(R"(<col min="2" max="2" hidden="1"/>)"), (std::vector{48.0, 0.0}));
+    EXPECT_EQ(widths(R"(<col min="2" max="2" hidden="0" width="16.7109375"/>)"), (std::vector{48.0, 87.75}));
+    EXPECT_EQ(widths(R"(<col min="3" max="3" width="16.7109375"/><col min="1" max="1" width="16.7109375"/>)"),
+              (std::vector{87.75, 48.0, 87.75}));
+    EXPECT_EQ(widths(R"(<col min="16384" max="16384" width="9"/>)").size(), 16384U);
+    EXPECT_EQ(widths(R"(<col min="3" max="2" width="9"/>)"), std::vector<double>());
+}
+
+TEST(XlsxBlad, rijen_en_kolommen_zonder_cellen_geven_ook_een_bereik) {
+    EXPECT_EQ(used_of(R"(<row r="3"/>)"), (Box{2, 0, 1, 1}));
+    EXPECT_EQ(used_of("", R"(<cols><col min="3" max="5" width="9" style="2"/></cols>)"), (Box{0, 2, 1, 3}));
+    EXPECT_EQ(used_of(R"(<row r="3"/>)", R"(<cols><col min="3" max="5" width="9" style="2"/></cols>)"),
+              (Box{2, 2, 1, 3}));
+    EXPECT_EQ(used_of("", R"(<cols><col min="16384" max="16384" width="9" style="2"/></cols>)"), (Box{0, 0, 0, 0}));
+    EXPECT_EQ(used_of("", R"(<cols><col min="16383" max="16383" width="9" style="2"/></cols>)"), (Box{0, 16382, 1, 1}));
+    const std::string cell = R"(<row r="1"><c r="A1"><v>1</v></c></row>)";
+    EXPECT_EQ(used_of(cell + R"(<row r="9" ht="12" hidden="1"/>)"), (Box{0, 0, 9, 1}));
+    EXPECT_EQ(used_of(cell + R"(<row r="9" ht="12"/>)"), (Box{0, 0, 1, 1}));
+    EXPECT_EQ(used_of(cell + R"(<row r="9" ht="12" s="3" customFormat="1"/>)"), (Box{0, 0, 9, 1}));
+    EXPECT_EQ(used_of(cell + R"(<row r="9" s="0" customFormat="1"/>)"), (Box{0, 0, 1, 1}));
+    EXPECT_EQ(used_of(cell + R"(<row r="9" ht="12" s="0" customFormat="1" customHeight="1"/>)"), (Box{0, 0, 9, 1}));
+    EXPECT_EQ(used_of(cell + R"(<row r="1048576"/>)"), (Box{0, 0, 1048576, 1}));
+    EXPECT_EQ(used_of(cell + R"(<row r="1048577"/>)"), (Box{0, 0, 1, 1}));
+    EXPECT_EQ(used_of(cell + R"(<row r="0"/><row r="x"/>)"), (Box{0, 0, 3, 1})); // counted on
+}
+
+TEST(XlsxBlad, alles_telt_alleen_op_zijn_eigen_plaats) {
+    auto parts = XlsxMaker{}.parts();
+    const auto cells_of = [&parts](const std::string& sheet) {
+        test::replace_part(parts, "xl/worksheets/sheet1.xml", sheet);
+        std::string all;
+        const auto found = opened(test::zip_of(parts));
+        for (const Cell& cell : found.sheet.cells)
+            all += std::to_string(cell.row) + ',' + std::to_string(cell.column) + '=' +
+                   std::to_string(static_cast<int>(cell.number)) + ' ';
+        return all;
+    };
+    EXPECT_EQ(cells_of("<a><sheetData><row><c><v>1</v></c></row></sheetData></a>"), "0,0=1 ");
+    EXPECT_EQ(
+        cells_of("<a><b><row><c><v>1</v></c></row></b><x><sheetData><row><c><v>2</v></c></row></sheetData></x></a>"),
+        "");
+    EXPECT_EQ(cells_of("<a><sheetData><rij><c><v>1</v></c></rij><row><d><v>2</v></d><c><w>3</w><v>4</v></c></row>"
+                       "<row><c><x><v>5</v></x></c><c><v>6</v><f>7</f></c></row></sheetData></a>"),
+              "0,0=4 1,1=6 ");
+    EXPECT_EQ(cells_of("<a><sheetData>1<row>2<c>3<v>4</v>5</c>6</row>7</sheetData></a>"), "0,0=4 ");
+    EXPECT_EQ(cells_of("<a><sheetData><row><c><v>1</v></c></row></sheetData><na><row><c><v>2</v></c></row></na></a>"),
+              "0,0=1 ");
+    EXPECT_EQ(cells_of(R"(<a><sheetData><row r="2"><c r="B5"><v>1</v></c><c><v>2</v></c></row></sheetData></a>)"),
+              "1,2=2 4,1=1 ");
+}
+
+TEST(XlsxBlad, waarden_mogen_wit_of_een_plus_hebben) {
+    const auto sheet = opened(XlsxMaker{
+        .sheet_data =
+            R"(<row r="1"><c r="A1"><v> +5 </v></c><c r="B1"><v>-5</v></c><c r="C1"><v>++5</v></c>)"
+            R"(<c r="D1" t="b"><v> 1 </v></c><c r="E1" t="b"><v>true</v></c><c r="F1" t="b"><v>x</v></c>)"
+            R"(<c r="G1" t="b"><v> </v></c><c r="H1" t="e"><v> #N/A </v></c><c r="I1" t="anders"><v>7</v></c>)"
+            R"(<c r="J1" t="d"><v> 2026-11-20 </v></c><c r="K1" t="d"><v> straks </v></c><c r="L1" t="str"/>)"
+            R"(<c r="M1" t="inlineStr"><is/></c><c r="N1" t="inlineStr"><v>weg</v></c></row>)"}
+                                  .bytes());
+    const std::vector<std::pair<std::string_view, std::string_view>> table = {
+        {"A1", "5"},        {"B1", "-5"},         {"C1", "(geen cel)"}, {"D1", "WAAR"}, {"E1", "WAAR"},
+        {"F1", "ONWAAR"},   {"G1", "(geen cel)"}, {"H1", "#N/B"},       {"I1", "7"},    {"J1", "46346"},
+        {"K1", " straks "}, {"L1", "(geen cel)"}, {"M1", ""},           {"N1", ""},
+    };
+    for (const auto& [place, text] : table)
+        EXPECT_EQ(sheet.shown(place), text) << place;
+}
+
+TEST(XlsxBlad, de_standaardstijl_wijst_haar_lettertype_aan) {
+    const auto width = [](const std::string& styles) {
+        return opened(XlsxMaker{.styles = styles}.bytes()).sheet.default_column_width;
+    };
+    const std::string fonts =
+        R"(<fonts><font><sz val="11"/><name val="Calibri"/></font><font><sz val="20"/>)"
+        R"(<name val="Arial"/></font><font><name val="Arial"/></font><font><sz val="x"/></font></fonts>)";
+    const auto style_of = [](const std::string& font) {
+        return R"(<cellStyleXfs><xf fontId=")" + font + R"("/></cellStyleXfs>)";
+    };
+    EXPECT_EQ(width(fonts), 48.0);
+    EXPECT_EQ(width(fonts + style_of("1")), 102.0);
+    EXPECT_EQ(width(fonts + style_of("2")), 54.0); // 11 points without a size
+    EXPECT_EQ(width(fonts + style_of("3")), 54.0);
+    EXPECT_EQ(width(fonts + style_of("4")), 48.0);
+    EXPECT_EQ(width(fonts + "<cellStyleXfs><xf/></cellStyleXfs>"), 48.0);
+    const std::string two = R"(<cellStyleXfs><xf fontId="0"/><xf fontId="1"/></cellStyleXfs>)";
+    EXPECT_EQ(width(fonts + two), 48.0);
+    EXPECT_EQ(
+        width(fonts + two +
+              R"(<cellStyles><cellStyle xfId="1" builtinId="0"/><cellStyle xfId="0" builtinId="0"/></cellStyles>)"),
+        102.0);
+    EXPECT_EQ(
+        width(fonts + two + R"(<cellStyles><cellStyle xfId="1" builtinId="1"/><cellStyle xfId="1"/></cellStyles>)"),
+        48.0);
+    EXPECT_EQ(width(fonts + two + R"(<cellStyles><cellStyle xfId="9" builtinId="0"/></cellStyles>)"), 48.0);
+    EXPECT_EQ(width(fonts + two + R"(<anders><cellStyle xfId="1" builtinId="0"/></anders>)"), 48.0);
+}
+
 TEST(XlsxBlad, datums_vanaf_1904) {
     XlsxMaker maker{.sheet_data = R"(<row r="1"><c r="A1" s="1"><v>44884</v></c></row>)",
                     .styles = R"(<cellXfs><xf/><xf numFmtId="14"/></cellXfs>)"};

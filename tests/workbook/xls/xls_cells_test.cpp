@@ -39,6 +39,39 @@ TEST(XlsCellen, een_rij_getallen_in_een_record_telt_de_kolommen_door) {
     EXPECT_EQ(shown(sheet_8(cells)), (Shown{"C5=1", "D5=2"}));
 }
 
+TEST(XlsCellen, een_rij_die_niet_uitkomt_geeft_wat_heel_is) {
+    const auto numbers = [](std::size_t size) {
+        Bytes data = Bytes().u16(0).u16(0).u16(0).u32(whole(1)).u16(0).u32(whole(2)).u16(1);
+        return shown(sheet_8(Bytes().record(0x00BD, data.zeros(6).cut(size))));
+    };
+    EXPECT_EQ(numbers(11), Shown{});
+    EXPECT_EQ(numbers(12), Shown{"A1=1"});
+    EXPECT_EQ(numbers(14), Shown{"A1=1"});
+    EXPECT_EQ(numbers(17), Shown{"A1=1"});
+    EXPECT_EQ(numbers(18), (Shown{"A1=1", "B1=2"}));
+    const auto blanks = [](std::size_t size) {
+        const Bytes data = Bytes().u16(0).u16(0).u16(0).u16(0).u16(0).zeros(2);
+        const auto workbook = open_xls(sheet_8(Bytes().record(0x00BE, Bytes(data).cut(size))).bytes());
+        return (*workbook)->read_sheet(0)->used.columns;
+    };
+    EXPECT_EQ(blanks(7), 0U);
+    EXPECT_EQ(blanks(8), 1U);
+    EXPECT_EQ(blanks(9), 1U);
+    EXPECT_EQ(blanks(10), 2U);
+    EXPECT_EQ(blanks(12), 3U);
+}
+
+TEST(XlsCellen, een_rij_getallen_eindigt_met_het_blad) {
+    Bytes data = Bytes().u16(0).u16(254);
+    for (int value = 1; value <= 4; ++value)
+        data.u16(0).u32(whole(value));
+    const auto workbook = open_xls(sheet_8(Bytes().record(0x00BD, data.u16(257))).bytes());
+    const auto sheet = (*workbook)->read_sheet(0);
+    ASSERT_EQ(sheet->cells.size(), 2U);
+    EXPECT_EQ(sheet->cells[1].column, 255U);
+    EXPECT_EQ(sheet->used.columns, 2U);
+}
+
 TEST(XlsCellen, waarheden_en_fouten) {
     Bytes cells;
     cells.record(0x0205, place(0, 0).u8(1).u8(0)).record(0x0205, place(0, 1).u8(0).u8(0));

@@ -255,20 +255,20 @@ TEST(XlsWerkmap, opmaak_en_stijlen_verschuiven_de_lettertypen_niet) {
 }
 
 TEST(XlsWerkmap, lettertypen_van_elke_versie_geven_de_breedte) {
-    const Bytes name = Bytes().u8(5).narrow("Arial");
+    const Bytes name = Bytes().u8(7).narrow("Verdana");
     const auto width = [](const Bytes& file) { return read(file).default_column_width; };
     Bytes first = Bytes().record(0x0009, Bytes().u16(2).u16(worksheet));
     first.record(0x0031, Bytes().u16(400).zeros(2).add(name)).record(0x000A);
-    EXPECT_EQ(width(first), 102.0);
+    EXPECT_EQ(width(first), 114.0);
     Bytes third = Bytes().record(0x0209, Bytes().u16(3).u16(worksheet).u16(0));
     third.record(0x0231, Bytes().u16(400).zeros(4).add(name)).record(0x0243, Bytes().zeros(12)).record(0x000A);
-    EXPECT_EQ(width(third), 102.0);
+    EXPECT_EQ(width(third), 114.0);
     Bytes fourth = Bytes().record(0x0409, Bytes().u16(4).u16(worksheet).u16(0));
     fourth.record(0x0231, Bytes().u16(400).zeros(4).add(name)).record(0x0443, Bytes().zeros(12)).record(0x000A);
-    EXPECT_EQ(width(fourth), 102.0);
+    EXPECT_EQ(width(fourth), 114.0);
     Bytes fifth = Bytes().record(0x0809, bof_5(worksheet));
     fifth.record(0x0031, Bytes().u16(400).zeros(12).add(name)).add(xf(0)).record(0x000A);
-    EXPECT_EQ(width(fifth), 102.0);
+    EXPECT_EQ(width(fifth), 114.0);
 }
 
 TEST(XlsWerkmap, stijlen_van_elke_versie_wijzen_hun_opmaak_aan) {

@@ -1,4 +1,5 @@
 #include "workbook/xlsx/opened_sheet.h"
+#include "workbook/xlsx/styles.h"
 #include "workbook/xlsx/xlsx_maker.h"
 
 #include <gtest/gtest.h>
@@ -233,6 +234,21 @@ TEST(XlsxBlad, de_standaardstijl_wijst_haar_lettertype_aan) {
         48.0);
     EXPECT_EQ(width(fonts + two + R"(<cellStyles><cellStyle xfId="9" builtinId="0"/></cellStyles>)"), 48.0);
     EXPECT_EQ(width(fonts + two + R"(<anders><cellStyle xfId="1" builtinId="0"/></anders>)"), 48.0);
+}
+
+TEST(XlsxBlad, meer_opmaakcodes_dan_een_werkmap_mag_hebben_vallen_weg) {
+    std::string codes;
+    for (std::size_t i = 0; i <= most_formats; ++i)
+        codes += "<numFmt numFmtId=\"" + std::to_string(1000 + i) + "\" formatCode=\"0.0\"/>";
+    const auto shown_under = [&codes](std::size_t id) {
+        return opened(XlsxMaker{.sheet_data = R"(<row><c s="0"><v>7</v></c></row>)",
+                                .styles = "<numFmts>" + codes + "</numFmts><cellXfs><xf numFmtId=\"" +
+                                          std::to_string(id) + "\"/></cellXfs>"}
+                          .bytes())
+            .shown("A1");
+    };
+    EXPECT_EQ(shown_under(1000 + most_formats - 1), "7,0");
+    EXPECT_EQ(shown_under(1000 + most_formats), "7");
 }
 
 TEST(XlsxBlad, datums_vanaf_1904) {

@@ -129,6 +129,7 @@ TEST(Utf16, met_een_half_paar_krijgt_een_vervangingsteken) {
     EXPECT_EQ(of({0xDC00, 0x41}), "\uFFFDA");
     EXPECT_EQ(of({0xDFFF}), "\uFFFD");
     EXPECT_EQ(of({0xD800, 0xD800, 0xDC00}), "\uFFFD\U00010000");
+    EXPECT_EQ(of({0xDC00, 0xDC00}), "\uFFFD\uFFFD");
     EXPECT_EQ(of({0xDC00, 0xD800}), "\uFFFD\uFFFD");
     EXPECT_EQ(of({0xD800, 0xE000}), "\uFFFD\uE000");
     EXPECT_EQ(of({0xD7FF, 0xDC00}), "\uD7FF\uFFFD");

@@ -188,6 +188,35 @@ TEST(XlsSlot, rc4_van_gekozen_sterkte_gaat_vanzelf_open) {
               all_cells);
 }
 
+TEST(XlsSlot, rc4_heeft_40_tot_128_bits) {
+    struct Strength {
+        unsigned bits;
+        std::string_view verifier;
+        std::string_view digest;
+        std::string_view first_key;
+        std::string_view second_key;
+    };
+    constexpr std::array<Strength, 2> allowed = {{
+        {48, "fe40ebfdac74fdd1db32c63a2e30be30", "4cd62ac951e052e3278b7f62db63e6eee4ef575d", "ac2a7b172474",
+         "f5648bfcf2dc"},
+        {120, "ab99d6f228c809d094d7c4ebb193123b", "9163191849f219591f9137ff6b6dc9f4970819dd",
+         "ac2a7b172474c79c0b1292e558dfd9", "f5648bfcf2dc15ff7dd417b6af542b"},
+    }};
+    for (const auto& [bits, verifier, digest, first_key, second_key] : allowed)
+        EXPECT_EQ(shown(locked(book_with(chosen_lock(bits, verifier, digest)), rc4_with({first_key, second_key}))),
+                  all_cells)
+            << bits;
+    // Of these the password fits too, but nobody locks so.
+    constexpr std::array<Strength, 4> refused = {{
+        {32, "7236b1d8af9e6b1ae337c2c8bbeb3b5f", "803b38e76bbc85fdc2c0ad78d526ed2969e919c7", "", ""},
+        {44, "8c3636cb58f911c8df399a7b20a1cafb", "35baa0ef367ca7d546e1f7512fe734c34e6c6cf9", "", ""},
+        {136, "867908fe5aac996f43eb8cfc87165fa1", "eb77fe39f54a39aaf2762bd50bbeedd1b21dbb1d", "", ""},
+        {160, "b199202b9a7875619992dde14bb27f3f", "058b6c1e8d5c1c76af270f20b37fe92f05dca1c2", "", ""},
+    }};
+    for (const auto& [bits, verifier, digest, first_key, second_key] : refused)
+        EXPECT_TRUE(asks_for_password(book_with(chosen_lock(bits, verifier, digest)))) << bits;
+}
+
 TEST(XlsSlot, wat_achter_het_slot_staat_telt_niet) {
     const Locking weak = rc4_with({"e0f0f3ab5b2c55a6fff6d99ae30691fb", "cdb235c584cc3283c74f3970baac0043"});
     EXPECT_EQ(shown(locked(book_with(Bytes(weak_lock).u32(0x12345678)), weak)), all_cells);

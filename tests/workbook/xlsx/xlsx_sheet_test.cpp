@@ -236,6 +236,19 @@ TEST(XlsxBlad, de_standaardstijl_wijst_haar_lettertype_aan) {
     EXPECT_EQ(width(fonts + two + R"(<anders><cellStyle xfId="1" builtinId="0"/></anders>)"), 48.0);
 }
 
+TEST(XlsxBlad, een_halve_opmaakcode_telt_niet) {
+    const auto shown_with = [](const std::string& codes) {
+        return opened(XlsxMaker{.sheet_data = R"(<row><c s="0"><v>7</v></c></row>)",
+                                .styles = "<numFmts>" + codes + R"(</numFmts><cellXfs><xf numFmtId="0"/></cellXfs>)"}
+                          .bytes())
+            .shown("A1");
+    };
+    EXPECT_EQ(shown_with(R"(<numFmt formatCode="0.0"/>)"), "7");
+    EXPECT_EQ(shown_with(R"(<numFmt numFmtId="0"/>)"), "7");
+    EXPECT_EQ(shown_with(R"(<numFmt numFmtId="0" formatCode="0.0"/>)"), "7,0");
+    EXPECT_EQ(shown_with(R"(<ander numFmtId="0" formatCode="0.0"/>)"), "7");
+}
+
 TEST(XlsxBlad, meer_opmaakcodes_dan_een_werkmap_mag_hebben_vallen_weg) {
     std::string codes;
     for (std::size_t i = 0; i <= most_formats; ++i)

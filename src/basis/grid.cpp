@@ -55,11 +55,36 @@ void Grid::set_text(int row, int column, std::string_view text) {
     if (cell == text) return;
     const std::size_t had = cell.size();
     cell = text.empty() ? std::string_view() : copied(text, static_cast<char*>(store_->allocate(text.size(), 1)));
-    stored_bytes_ += cell.size();
-    used_bytes_ += cell.size() - had;
-    changed.bytes += cell.size() - had;
-    tidy_store();
+    account(changed, cell.size(), had);
     if (GridListener* listener = audience()) listener->cell_changed(row, column);
+}
+
+void Grid::set_row_texts(int row, std::span<const std::string_view> texts) {
+    if (row < 0 || row >= rows()) return;
+    texts = texts.first(std::min(texts.size(), static_cast<std::size_t>(columns_)));
+    std::size_t bytes = 0;
+    for (const std::string_view text : texts)
+        bytes += text.size();
+    auto* place = bytes == 0 ? nullptr : static_cast<char*>(store_->allocate(bytes, 1));
+    Row& changed = rows_[static_cast<std::size_t>(row)];
+    std::size_t had = 0;
+    for (std::size_t column = 0; column < texts.size(); ++column) {
+        std::string_view& cell = changed.cells[column];
+        had += cell.size();
+        cell = copied(texts[column], place);
+        place += cell.size();
+    }
+    account(changed, bytes, had);
+    if (GridListener* listener = audience())
+        for (int column = 0; column < static_cast<int>(texts.size()); ++column)
+            listener->cell_changed(row, column);
+}
+
+void Grid::account(Row& row, std::size_t added, std::size_t left_behind) {
+    stored_bytes_ += added;
+    used_bytes_ += added - left_behind;
+    row.bytes += added - left_behind;
+    tidy_store();
 }
 
 std::int32_t Grid::row_value(int row) const {

@@ -47,6 +47,9 @@ class Grid {
         return has_cell(row, column) ? rows_[static_cast<std::size_t>(row)].cells[column] : std::string_view();
     }
     void set_text(int row, int column, std::string_view text);
+    // The same for the cells of a row from column 0 on, quicker. Texts beyond the last column are dropped, cells
+    // without a text keep theirs. The texts may not be views on this grid.
+    void set_row_texts(int row, std::span<const std::string_view> texts);
     // A number that goes with the row and is never shown.
     [[nodiscard]] std::int32_t row_value(int row) const;
     void set_row_value(int row, std::int32_t value);
@@ -100,6 +103,8 @@ class Grid {
     [[nodiscard]] bool has_cell(int row, int column) const {
         return row >= 0 && row < rows() && column >= 0 && column < columns_;
     }
+    // Sees to it that no more is stored than is worth it, when bytes were added to a row and others are no longer used.
+    void account(Row& row, std::size_t added, std::size_t left_behind);
     [[nodiscard]] GridListener* audience() const { return redraw_ ? listener_ : nullptr; }
     // A row of its own copies of the texts.
     [[nodiscard]] static Row stored(std::pmr::memory_resource& store, std::size_t columns,

@@ -4,6 +4,7 @@
 
 #include <expected>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -35,6 +36,9 @@ class ExcelWorksheet {
     [[nodiscard]] virtual Automation<std::unique_ptr<ExcelUsedRange>> UsedRange() = 0;
     // Counted from A1, also when the used range begins elsewhere.
     [[nodiscard]] virtual Automation<std::unique_ptr<ExcelRange>> Cells(int row, int column) = 0;
+    // No member of Excel's: what Text() gives for the cells of a row, from column 1 on, without an object for each. The
+    // views hold until the next row is asked for. False where the cells are to be asked one by one.
+    [[nodiscard]] virtual bool row_texts(int /*row*/, std::span<std::string_view> /*texts*/) { return false; }
 };
 
 class ExcelSheets {

@@ -47,6 +47,14 @@ class ReadSheet {
     }
 
     [[nodiscard]] std::string_view text_of(const Cell& cell) { return texts_.of(cell); }
+    // "" for a place without a cell. The views hold until the next row is asked for.
+    void texts_of_row(std::uint32_t row, std::span<std::string_view> texts) {
+        if (made_.size() < texts.size()) made_.resize(texts.size());
+        for (std::uint32_t column = 0; column < texts.size(); ++column) {
+            const Cell* const cell = find(row, column);
+            texts[column] = cell == nullptr ? std::string_view() : texts_.of(*cell, made_[column]);
+        }
+    }
     [[nodiscard]] std::string stored_text_of(const Cell& cell) const {
         if (cell.kind == CellKind::text) return std::string(source_->workbook->texts()[cell.text]);
         return cell.kind == CellKind::blank ? std::string() : number_text(cell.number);
@@ -57,7 +65,8 @@ class ReadSheet {
     Sheet sheet_;
     UsedRange box_;
     DisplayedTexts texts_;
-    std::size_t found_ = 0; // the cell found last
+    std::size_t found_ = 0;         // the cell found last
+    std::vector<std::string> made_; // texts of the row that is asked for
 };
 
 // What the objects of one open workbook share; each of them may be the last to let go.
@@ -126,6 +135,12 @@ class BuiltinWorksheet : public ExcelWorksheet {
         if (row < 1 || column < 1) return refuse("Deze cel bestaat niet.");
         return std::make_unique<BuiltinCell>(sheet_, static_cast<std::uint32_t>(row - 1),
                                              static_cast<std::uint32_t>(column - 1));
+    }
+
+    bool row_texts(int row, std::span<std::string_view> texts) override {
+        if (row < 1 || !read_once()) return false;
+        sheet_->texts_of_row(static_cast<std::uint32_t>(row - 1), texts);
+        return true;
     }
 
   private:

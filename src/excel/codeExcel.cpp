@@ -76,14 +76,22 @@ void lees_breedtes(ExcelWorksheet& werkblad, Grid& grid) {
 }
 
 // A cell that cannot be read stays empty. The stored value is read as well and not used; it is meant so.
+void lees_cellen_van_rij(ExcelWorksheet& werkblad, int rij, Grid& grid) {
+    for (int kolom = 1; kolom <= grid.columns(); ++kolom) {
+        const auto cel = werkblad.Cells(rij, kolom);
+        if (!cel) continue;
+        static_cast<void>((*cel)->Value());
+        if (const auto tekst = (*cel)->Text()) grid.set_text(rij - 1, kolom - 1, *tekst);
+    }
+}
+
 void lees_cellen(ExcelWorksheet& werkblad, Grid& grid) {
+    std::vector<std::string_view> teksten(static_cast<std::size_t>(grid.columns()));
     for (int rij = 1; rij <= grid.rows(); ++rij) {
-        for (int kolom = 1; kolom <= grid.columns(); ++kolom) {
-            const auto cel = werkblad.Cells(rij, kolom);
-            if (!cel) continue;
-            static_cast<void>((*cel)->Value());
-            if (const auto tekst = (*cel)->Text()) grid.set_text(rij - 1, kolom - 1, *tekst);
-        }
+        if (werkblad.row_texts(rij, teksten))
+            grid.set_row_texts(rij - 1, teksten);
+        else
+            lees_cellen_van_rij(werkblad, rij, grid);
     }
 }
 

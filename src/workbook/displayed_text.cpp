@@ -22,48 +22,47 @@ std::string_view error_text(double code, const Locale& locale) {
     return locale.errors.front();
 }
 
+std::string_view text_under(const NumberFormat& format, std::string_view text, std::string& room) {
+    if (!format.changes_texts()) return text;
+    room = format.show_text(text);
+    return room;
+}
+
 } // namespace
 
-std::string_view DisplayedTexts::of(const Cell& cell) {
-    const std::string_view text = cut_to_longest(whole_text_of(cell));
+std::string_view DisplayedTexts::of(const Cell& cell, std::string& room) {
+    const std::string_view text = cut_to_longest(whole_text_of(cell, room));
     if (text.size() > bytes_left_) bytes_left_ = 0;
     if (bytes_left_ == 0) return {};
     bytes_left_ -= text.size();
     return text;
 }
 
-std::string_view DisplayedTexts::whole_text_of(const Cell& cell) {
+std::string_view DisplayedTexts::whole_text_of(const Cell& cell, std::string& room) {
     switch (cell.kind) {
     case CellKind::blank:
         return {};
     case CellKind::number:
-        made_ = format_of(cell).show_number(
+        room = format_of(cell).show_number(
             cell.number, workbook_.dates_from_1904() ? DateSystem::from_1904 : DateSystem::from_1900, locale_);
-        return made_;
+        return room;
     case CellKind::text:
-        return text_under(format_of(cell), workbook_.texts()[cell.text]);
+        return text_under(format_of(cell), workbook_.texts()[cell.text], room);
     case CellKind::boolean:
-        return text_under(format_of(cell), cell.number != 0 ? locale_.true_word : locale_.false_word);
+        return text_under(format_of(cell), cell.number != 0 ? locale_.true_word : locale_.false_word, room);
     case CellKind::error:
         return error_text(cell.number, locale_);
     }
     return {};
 }
 
-std::string_view DisplayedTexts::text_under(const NumberFormat& format, std::string_view text) {
-    if (!format.changes_texts()) return text;
-    made_ = format.show_text(text);
-    return made_;
-}
-
 const NumberFormat& DisplayedTexts::format_of(const Cell& cell) {
+    if (cell.format < formats_.size() && formats_[cell.format]) return *formats_[cell.format];
     const auto codes = workbook_.formats();
     if (cell.format >= codes.size()) return general_;
     if (formats_.size() <= cell.format) formats_.resize(codes.size());
-    auto& format = formats_[cell.format];
     const std::string_view code = codes[cell.format];
-    if (!format) format.emplace(code.size() <= longest_format_code ? code_in_locale(code, locale_) : "");
-    return *format;
+    return formats_[cell.format].emplace(code.size() <= longest_format_code ? code_in_locale(code, locale_) : "");
 }
 
 } // namespace tavelo

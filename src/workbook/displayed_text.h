@@ -28,18 +28,19 @@ class DisplayedTexts {
     // Texts and the words of booleans go through the text section of the format, errors never. A blank cell shows
     // nothing. At most longest_text characters; and from the call on that would bring the sum of the texts given so far
     // beyond most_shown_bytes, nothing. The view holds until the next call.
-    [[nodiscard]] std::string_view of(const Cell& cell);
+    [[nodiscard]] std::string_view of(const Cell& cell) { return of(cell, made_); }
+    // The same, with a view that holds as long as nothing else is done with `room`, where it stands or not.
+    [[nodiscard]] std::string_view of(const Cell& cell, std::string& room);
 
   private:
-    [[nodiscard]] std::string_view whole_text_of(const Cell& cell);
-    [[nodiscard]] std::string_view text_under(const NumberFormat& format, std::string_view text);
+    [[nodiscard]] std::string_view whole_text_of(const Cell& cell, std::string& room);
     [[nodiscard]] const NumberFormat& format_of(const Cell& cell);
 
     const Workbook& workbook_;
     const Locale& locale_;
     std::vector<std::optional<NumberFormat>> formats_;
     NumberFormat general_{""};
-    std::string made_; // the text given last, when it is not one that is kept elsewhere
+    std::string made_;
     std::size_t bytes_left_ = most_shown_bytes;
 };
 

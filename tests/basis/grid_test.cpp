@@ -132,7 +132,7 @@ TEST(Grid, na_elke_reeks_wijzigingen_staat_er_wat_er_is_neergezet) {
             const int rij = toeval.onder(static_cast<int>(verwacht.size()) + 2) - 1;
             const bool bestaat = rij >= 0 && rij < grid.rows();
             const std::string tekst(static_cast<std::size_t>(toeval.onder(200)), static_cast<char>('a' + stap % 26));
-            switch (toeval.onder(6)) {
+            switch (toeval.onder(7)) {
             case 0:
                 grid.append_row(Views{tekst, "", "z"});
                 verwacht.push_back({tekst, "", "z"});
@@ -150,6 +150,10 @@ TEST(Grid, na_elke_reeks_wijzigingen_staat_er_wat_er_is_neergezet) {
                 if (!toeval.een_op(50)) break;
                 grid.set_rows(rij);
                 verwacht.resize(static_cast<std::size_t>(std::max(rij, 0)), Texts(3));
+                break;
+            case 4:
+                grid.set_row_texts(rij, Views{"", tekst});
+                if (bestaat) std::ranges::copy(Texts{"", tekst}, verwacht[static_cast<std::size_t>(rij)].begin());
                 break;
             default:
                 const int kolom = toeval.onder(3);
@@ -184,6 +188,34 @@ TEST(Grid, wie_rijen_blijft_vullen_en_weghalen_houdt_het_geheugen_klein) {
         }
         EXPECT_LT(test::heap_bytes(), voor + 200'000) << een_voor_een; // of two million bytes that were written
     }
+}
+
+TEST(Grid, de_teksten_van_een_rij_komen_in_een_keer) {
+    Grid grid = grid_van(3, 2);
+    grid.set_row_value(1, 7);
+    GridEvents gehoord;
+    grid.set_listener(&gehoord);
+    grid.set_row_texts(1, Views{"a", "bb", "te veel"});
+    EXPECT_EQ(test::all_texts(grid), (std::vector<Texts>{{"", ""}, {"a", "bb"}, {"", ""}}));
+    EXPECT_EQ(gehoord.cells, (std::vector<std::pair<int, int>>{{1, 0}, {1, 1}}));
+    grid.set_row_texts(1, Views{"c"});
+    grid.set_row_texts(2, Views{});
+    grid.set_row_texts(3, Views{"x"});
+    grid.set_row_texts(-1, Views{"x"});
+    EXPECT_EQ(test::all_texts(grid), (std::vector<Texts>{{"", ""}, {"c", "bb"}, {"", ""}}));
+    EXPECT_EQ(grid.row_value(1), 7);
+    EXPECT_EQ(gehoord.cells.size(), 3U);
+}
+
+TEST(Grid, ook_wie_hele_rijen_blijft_vullen_houdt_het_geheugen_klein) {
+    Grid grid = grid_van(100, 2);
+    const std::size_t voor = test::heap_bytes();
+    const std::string tekst(100, 'x');
+    for (int keer = 0; keer < 2000; ++keer)
+        for (int rij = 0; rij < 100; ++rij)
+            grid.set_row_texts(rij, Views{tekst, "y"});
+    EXPECT_LT(test::heap_bytes(), voor + 200'000);
+    EXPECT_EQ(grid.text(99, 0), tekst);
 }
 
 TEST(Grid, de_huidige_cel_blijft_binnen_het_grid) {

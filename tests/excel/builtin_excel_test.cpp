@@ -232,6 +232,31 @@ TEST_F(BuiltinExcel, een_kolom_voorbij_de_breedten_heeft_de_gewone) {
     EXPECT_EQ(sheet->Cells(1, 3).value()->Width(), 50.0);
 }
 
+TEST_F(BuiltinExcel, de_teksten_van_een_rij_zijn_die_van_zijn_cellen) {
+    for (const int blad : {1, 2}) {
+        auto book = excel->Workbooks().value()->Open(startlijst).value();
+        auto sheets = book->Sheets().value();
+        std::unique_ptr<ExcelWorksheet> sheet;
+        for (int i = 0; i < blad; ++i)
+            sheet = sheets->Next().value();
+        std::vector<std::string_view> texts(13);
+        for (const int rij : {3, 1, 2, 7, 99}) {
+            ASSERT_TRUE(sheet->row_texts(rij, texts));
+            const std::vector<std::string> row(texts.begin(), texts.end());
+            for (int kolom = 1; kolom <= 13; ++kolom)
+                EXPECT_EQ(row.at(static_cast<std::size_t>(kolom - 1)), sheet->Cells(rij, kolom).value()->Text().value())
+                    << blad << ' ' << rij << ' ' << kolom;
+        }
+        EXPECT_FALSE(sheet->row_texts(0, texts));
+    }
+}
+
+TEST_F(BuiltinExcel, een_grafiekblad_geeft_ook_geen_rijen) {
+    auto book = excel->Workbooks().value()->Open(TAVELO_TEST_DATA "/workbook/grafiek_eerst.xlsx").value();
+    std::vector<std::string_view> texts(1);
+    EXPECT_FALSE(book->Sheets().value()->Next().value()->row_texts(1, texts));
+}
+
 TEST_F(BuiltinExcel, een_startlijst_wordt_door_de_letters_van_de_instellingen_het_rooster) {
     Programma programma;
     programma.instellingen.col_startnumber = "a";

@@ -1,6 +1,7 @@
 // A spreadsheet program written by hand, in which one member of the object model can be made to fail.
 #pragma once
 
+#include "basis/text.h"
 #include "excel/automation.h"
 
 #include <map>
@@ -15,6 +16,7 @@ struct FakeSheet {
     std::vector<double> widths;                  // of the columns; 0 beyond the end
     int rows_count = 0;
     int columns_count = 0;
+    bool gives_rows = false; // its texts by row, in capitals
 };
 
 // A sheet that is used from A1 to its last text, columns 48 points wide.
@@ -109,8 +111,17 @@ class Worksheet : Object, public ExcelWorksheet {
                                       has_text ? sheet_.texts[r][c] : std::string());
     }
 
+    bool row_texts(int row, std::span<std::string_view> texts) override {
+        if (!sheet_.gives_rows || excel_.fails("row_texts")) return false;
+        row_ = sheet_.texts.at(static_cast<std::size_t>(row - 1));
+        for (std::size_t column = 0; column < texts.size(); ++column)
+            texts[column] = row_.at(column) = upper_case(row_[column]);
+        return true;
+    }
+
   private:
     const FakeSheet& sheet_;
+    std::vector<std::string> row_;
 };
 
 class Sheets : Object, public ExcelSheets {

@@ -71,6 +71,18 @@ TEST_F(LeesExcel, het_eerste_blad_komt_in_het_grid_en_er_volgt_nog_een) {
     expect_everything_restored();
 }
 
+TEST_F(LeesExcel, een_blad_dat_zijn_rijen_geeft_wordt_niet_cel_voor_cel_gelezen) {
+    excel.sheets.front().gives_rows = true;
+    EXPECT_FALSE(lees());
+    EXPECT_EQ(texts(), (Texts{{"NR", "NAAM"}, {"1", "AMBER"}}));
+    EXPECT_EQ(excel.calls["Text"], 0);
+    EXPECT_EQ(excel.calls["Cells"], 2); // for the widths
+    excel.failing_member = "row_texts";
+    EXPECT_FALSE(lees());
+    EXPECT_EQ(texts(), (Texts{{"nr", "naam"}, {"1", "Amber"}}));
+    EXPECT_EQ(excel.calls["Text"], 4);
+}
+
 TEST_F(LeesExcel, na_het_laatste_blad_volgt_er_geen) {
     EXPECT_TRUE(lees("zondag.xls", 2));
     EXPECT_EQ(texts(), (Texts{{"tweede blad"}}));

@@ -101,6 +101,20 @@ TEST(GetoondeTekst, een_tekst_is_hoogstens_zo_lang_als_die_van_excel) {
     EXPECT_EQ(DisplayedTexts(book, dutch).of(text), "x" + std::string(longest_text - 1, 'a'));
 }
 
+TEST(GetoondeTekst, elke_tekst_blijft_staan_in_zijn_eigen_ruimte) {
+    const Stored book;
+    DisplayedTexts texts(book, dutch);
+    std::array<std::string, 4> rooms;
+    const std::string_view number = texts.of(cell(CellKind::number, 1234.5, 1), rooms[0]);
+    const std::string_view word = texts.of(cell(CellKind::boolean, 1, 2), rooms[1]);
+    const std::string_view text = texts.of(cell(CellKind::text, 0, 2), rooms[2]);
+    const std::string_view other = texts.of(cell(CellKind::number, 1, 3), rooms[3]);
+    EXPECT_EQ(number, "1234,50");
+    EXPECT_EQ(word, " WAAR ");
+    EXPECT_EQ(text, " Zoë ");
+    EXPECT_EQ(other, "1-1-1900");
+}
+
 TEST(GetoondeTekst, een_onmogelijk_lange_opmaak_toont_standaard) {
     Stored book;
     book.codes = {"0" + std::string(longest_format_code - 1, '!'), "0" + std::string(longest_format_code, '!')};

@@ -13,6 +13,9 @@ constexpr std::string_view amount_tag = "[$-x-amount";
 } // namespace
 
 std::string_view code_in_locale(std::string_view code, const Locale& locale) {
+    if (code == short_date) return locale.short_date;
+    if (code == short_time) return locale.short_time;
+    if (code == long_time) return locale.long_time;
     if (!code.starts_with(amount_tag) || code.size() == amount_tag.size()) return code;
     const auto place = static_cast<std::size_t>(code[amount_tag.size()] - 'a');
     return place < locale.amounts.size() ? locale.amounts[place] : code;

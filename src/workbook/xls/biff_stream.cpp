@@ -1,9 +1,9 @@
 #include "workbook/xls/biff_stream.h"
 
+#include "basis/text.h"
 #include "workbook/xls/code_page.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace tavelo {
 
@@ -16,27 +16,6 @@ constexpr unsigned rich_flag = 0x08;
 constexpr std::size_t formatting_run_size = 4;
 
 } // namespace
-
-std::uint8_t byte_at(ByteSpan bytes, std::size_t place) {
-    return place < bytes.size() ? std::to_integer<std::uint8_t>(bytes[place]) : std::uint8_t{0};
-}
-
-std::uint16_t word_at(ByteSpan bytes, std::size_t place) {
-    return static_cast<std::uint16_t>(byte_at(bytes, place) | byte_at(bytes, place + 1) << 8);
-}
-
-std::uint32_t long_at(ByteSpan bytes, std::size_t place) {
-    return word_at(bytes, place) | static_cast<std::uint32_t>(word_at(bytes, place + 2)) << 16;
-}
-
-double double_at(ByteSpan bytes, std::size_t place) {
-    return std::bit_cast<double>(long_at(bytes, place) | static_cast<std::uint64_t>(long_at(bytes, place + 4)) << 32);
-}
-
-ByteSpan part_of(ByteSpan bytes, std::size_t place, std::size_t count) {
-    const ByteSpan rest = bytes.subspan(std::min(place, bytes.size()));
-    return rest.first(std::min(count, rest.size()));
-}
 
 Biff version_of_bof(const BiffRecord& bof) {
     constexpr unsigned biff8_number = 0x0600;
@@ -53,15 +32,6 @@ Biff version_of_bof(const BiffRecord& bof) {
 }
 
 SubstreamKind kind_of_bof(const BiffRecord& bof) { return static_cast<SubstreamKind>(word_at(bof.data, 2)); }
-
-std::optional<BiffRecord> BiffCursor::next() {
-    constexpr std::size_t header_size = 4;
-    if (place_ > stream_.size() || stream_.size() - place_ < header_size) return std::nullopt;
-    const BiffRecord record{.type = word_at(stream_, place_),
-                            .data = part_of(stream_, place_ + header_size, word_at(stream_, place_ + 2))};
-    place_ += header_size + record.data.size();
-    return record;
-}
 
 std::optional<BiffRecord> BiffCursor::next_if(std::uint16_t type) {
     const std::size_t before = place_;
@@ -114,10 +84,25 @@ std::string BiffText::string(std::size_t length, TextEncoding encoding) {
 }
 
 std::string BiffText::unicode_string(std::size_t length) {
-    unsigned flags = byte();
+    const unsigned flags = byte();
     const std::size_t runs = (flags & rich_flag) != 0 ? word() : 0;
     const std::size_t phonetic = (flags & phonetic_flag) != 0 ? long_word() : 0;
 
+    const bool is_narrow = (flags & wide_flag) == 0;
+    std::string text = is_narrow && length <= data_.size() ? narrow_string(length) : characters(length, flags);
+    skip(runs * formatting_run_size);
+    skip(phonetic);
+    return text;
+}
+
+// What nearly every string is: in one record, of one byte for each character.
+std::string BiffText::narrow_string(std::size_t length) {
+    const ByteSpan bytes = data_.first(length);
+    data_ = data_.subspan(length);
+    return from_windows_1252({reinterpret_cast<const char*>(bytes.data()), length}); // see character_of_byte
+}
+
+std::string BiffText::characters(std::size_t length, unsigned flags) {
     std::u16string text;
     while (length > 0) {
         if (data_.empty()) {
@@ -132,8 +117,6 @@ std::string BiffText::unicode_string(std::size_t length) {
         data_ = part_of(data_, here * unit_size);
         length -= here;
     }
-    skip(runs * formatting_run_size);
-    skip(phonetic);
     return utf8_of(text);
 }
 

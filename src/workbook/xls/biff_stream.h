@@ -1,8 +1,11 @@
 // The bytes of an .xls workbook as records: a 16-bit type, a 16-bit length, the data. All numbers are little-endian.
 #pragma once
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <span>
 #include <string>
@@ -11,13 +14,36 @@ namespace tavelo {
 
 using ByteSpan = std::span<const std::byte>;
 
-// A number at a place in the bytes; what lies beyond the end counts as zero.
-[[nodiscard]] std::uint8_t byte_at(ByteSpan bytes, std::size_t place);
-[[nodiscard]] std::uint16_t word_at(ByteSpan bytes, std::size_t place);
-[[nodiscard]] std::uint32_t long_at(ByteSpan bytes, std::size_t place);
-[[nodiscard]] double double_at(ByteSpan bytes, std::size_t place);
 // At most `count` bytes from `place`, fewer at the end.
-[[nodiscard]] ByteSpan part_of(ByteSpan bytes, std::size_t place, std::size_t count = std::dynamic_extent);
+[[nodiscard]] inline ByteSpan part_of(ByteSpan bytes, std::size_t place, std::size_t count = std::dynamic_extent) {
+    const ByteSpan rest = bytes.subspan(std::min(place, bytes.size()));
+    return rest.first(std::min(count, rest.size()));
+}
+
+// The number at a place in the bytes; what lies beyond the end counts as zero.
+template <class Unsigned>
+[[nodiscard]] Unsigned number_at(ByteSpan bytes, std::size_t place) {
+    static_assert(std::endian::native == std::endian::little);
+    Unsigned number = 0;
+    if (place < bytes.size() && bytes.size() - place >= sizeof number)
+        std::memcpy(&number, bytes.data() + place, sizeof number);
+    else
+        for (std::size_t at = bytes.size(); at-- > place;)
+            number = static_cast<Unsigned>(std::uint64_t{number} << 8U | std::to_integer<std::uint8_t>(bytes[at]));
+    return number;
+}
+[[nodiscard]] inline std::uint8_t byte_at(ByteSpan bytes, std::size_t place) {
+    return number_at<std::uint8_t>(bytes, place);
+}
+[[nodiscard]] inline std::uint16_t word_at(ByteSpan bytes, std::size_t place) {
+    return number_at<std::uint16_t>(bytes, place);
+}
+[[nodiscard]] inline std::uint32_t long_at(ByteSpan bytes, std::size_t place) {
+    return number_at<std::uint32_t>(bytes, place);
+}
+[[nodiscard]] inline double double_at(ByteSpan bytes, std::size_t place) {
+    return std::bit_cast<double>(number_at<std::uint64_t>(bytes, place));
+}
 
 enum class Biff : std::uint8_t { biff2, biff3, biff4, biff5, biff8 }; // BIFF5 also stands for BIFF7
 
@@ -70,7 +96,14 @@ struct BiffRecord {
 class BiffCursor {
   public:
     explicit BiffCursor(ByteSpan stream, std::size_t place = 0) : stream_(stream), place_(place) {}
-    [[nodiscard]] std::optional<BiffRecord> next();
+    [[nodiscard]] std::optional<BiffRecord> next() {
+        constexpr std::size_t header_size = 4;
+        if (place_ > stream_.size() || stream_.size() - place_ < header_size) return std::nullopt;
+        const BiffRecord record{.type = word_at(stream_, place_),
+                                .data = part_of(stream_, place_ + header_size, word_at(stream_, place_ + 2))};
+        place_ += header_size + record.data.size();
+        return record;
+    }
     // The next record when it has this type; otherwise nothing, and the cursor stays.
     [[nodiscard]] std::optional<BiffRecord> next_if(std::uint16_t type);
     // Where the next record begins.
@@ -100,6 +133,8 @@ class BiffText {
   private:
     [[nodiscard]] bool next_part();
     [[nodiscard]] std::string unicode_string(std::size_t length);
+    [[nodiscard]] std::string narrow_string(std::size_t length);
+    [[nodiscard]] std::string characters(std::size_t length, unsigned flags);
     [[nodiscard]] std::string byte_string(std::size_t length, unsigned code_page);
 
     BiffCursor& cursor_;

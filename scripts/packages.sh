@@ -27,6 +27,9 @@ packages_test=(
 # To make the Debian package and have it checked (./package).
 packages_package=(dpkg-dev file lintian appstream desktop-file-utils)
 
+# To try that package in a clean Debian (scripts/test_package.sh).
+packages_try_package=(debootstrap desktop-file-utils python3-gi)
+
 # To fuzz, in the tests for a short while and with scripts/fuzz.sh for longer; <expected> needs clang 16.
 packages_fuzz=(clang-16 libclang-rt-16-dev)
 

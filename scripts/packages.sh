@@ -41,7 +41,7 @@ packages_examples=(python3-xlsxwriter)
 packages_windows=(
     g++-mingw-w64-x86-64-posix libz-mingw-w64-dev
     qt6-base-dev qt6-base-dev-tools cmake ninja-build pkgconf dpkg-dev perl python3
-    librsvg2-bin icoutils nsis zip googletest
+    librsvg2-bin icoutils nsis zip googletest cmark-gfm
 )
 packages_windows_try=(wine wine64 xvfb openbox xdotool imagemagick x11-utils fonts-liberation python3)
 

@@ -147,7 +147,7 @@ class Samenvoeging {
 
     void voer_uit() {
         for (int rij = 1; rij < bron_.rows(); ++rij) {
-            const double nummer = leading_number(trimmed(bron_.text(rij, kolom_inr)));
+            const double nummer = nummer_van(bron_, rij);
             if (nummer <= 0) continue; // pauses take no part
             if (const std::optional<int> gevonden = index_.zoek(nummer))
                 werk_bij(*gevonden, rij, nummer);

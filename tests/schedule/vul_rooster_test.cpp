@@ -209,7 +209,9 @@ TEST(VulRooster, het_nummer_blijft_staan_zoals_het_geschreven_is) {
         EXPECT_EQ(rij(proef, dnr).cellen[kolom_inr], dnr);
         EXPECT_EQ(proef.cel(1, kolom_naam), "Jan") << dnr;
     }
-    EXPECT_EQ(rij(proef, " 12 ").cellen[kolom_inr], "12"); // items are trimmed
+    EXPECT_EQ(rij(proef, " 12 ").cellen[kolom_inr], "12");  // items are trimmed
+    proef.vul("rcom:0" + deelname("12") + deelname("012")); // also of who starts once more
+    EXPECT_EQ(test::column_texts(proef.grid, kolom_inr), (Texts{"12", "012"}));
 }
 
 TEST(VulRooster, de_zes_items_achter_een_deelname_zijn_geen_sleutels) {
@@ -243,6 +245,7 @@ TEST(VulRooster, een_afgeleid_hoofdnummer_heeft_hoogstens_drie_cijfers) {
     };
     EXPECT_EQ(hnr(12, "co:A-1234"), "234");
     EXPECT_EQ(hnr(12, "co:A1-2"), "12");
+    EXPECT_EQ(hnr(12, "co:A0-9/0:"), "090");
     EXPECT_EQ(hnr(12, "co:ABC\tna:x"), "12");
     EXPECT_EQ(hnr(12, "na:x"), "12");
     EXPECT_EQ(hnr(1234, "na:x"), "234"); // the number itself as well

@@ -97,6 +97,14 @@ std::vector<GeplaatsteTekst> rubriek(double breedte, std::string_view tekst, int
     return vlak.regels();
 }
 
+TEST(DrukRubriek, een_regel_die_na_verkleinen_net_past_maakt_de_letter_niet_weer_groot) {
+    // A "c" is 5 wide at 1 point; 950 is what the texts may take.
+    const std::string breed(18, 'c');
+    const std::string net(19, 'c');
+    EXPECT_EQ(rubriek(1000, breed + "\r\n" + net, 20, links),
+              (std::vector<GeplaatsteTekst>{{30, 0, 10, breed}, {30, 230, 10, net}}));
+}
+
 TEST(DrukRubriek, elke_regel_wordt_op_zichzelf_uitgelijnd) {
     const std::string_view tekst = " IIIII\r\nII ";
     EXPECT_EQ(rubriek(1000, tekst, 10, links),

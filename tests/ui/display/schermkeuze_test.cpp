@@ -94,6 +94,8 @@ TEST(PlaatsNaast, zonder_ruimte_ernaast_staat_hij_in_de_hoek_en_nooit_over_het_n
 TEST(Overlap, raken_is_geen_overlap) {
     EXPECT_EQ(overlap({0, 0, 10, 10}, {10, 0, 10, 10}), 0);
     EXPECT_EQ(overlap({0, 0, 10, 10}, {5, 5, 10, 10}), 25);
+    EXPECT_EQ(overlap({0, 0, 10, 10}, {9, 0, 10, 10}), 10);
+    EXPECT_EQ(overlap({0, 0, 10, 10}, {0, 9, 10, 10}), 10);
     EXPECT_EQ(overlap({0, 0, 100000, 100000}, {0, 0, 100000, 100000}), 10'000'000'000);
 }
 

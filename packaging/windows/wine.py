@@ -42,8 +42,8 @@ class Wine:
         self.prefix = scherm.thuis / "wine"
         self.env = scherm.omgeving | {
             "WINEPREFIX": str(self.prefix), "WINEARCH": "win64", "WINEDEBUG": "-all",
-            # Wine's offers to fetch what it lacks.
-            "WINEDLLOVERRIDES": "mscoree,mshtml=",
+            # Its offers to fetch what it lacks, and its debugger, which would wait for somebody.
+            "WINEDLLOVERRIDES": "mscoree,mshtml,winedbg.exe=",
         }
         self.env.pop("QT_QPA_PLATFORM", None)
         self.run_host("wineboot", "--init")
@@ -107,7 +107,7 @@ class Wine:
 
     def restart(self):
         """As the computer does, so that what was changed in its settings counts."""
-        self.run_host("wineserver", "--kill")
+        self.run_host("wineserver", "--wait")
 
     def close(self):
-        self.run_host("wineserver", "--kill")
+        subprocess.run(["wineserver", "--kill"], env=self.env, check=False)  # it may have ended by itself

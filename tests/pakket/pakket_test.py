@@ -24,7 +24,8 @@ from scherm import Anders, Scherm, wacht_tot  # noqa: E402
 
 GEBRUIKER = "operateur"
 THUIS = f"/home/{GEBRUIKER}"
-ROOSTER = f"{THUIS}/springen.rst"
+VOORBEELDEN = ["springen.rst", "startlijst.xlsx"]
+ROOSTER, STARTLIJST = (f"{THUIS}/{voorbeeld}" for voorbeeld in VOORBEELDEN)
 HANDLEIDING = "/usr/share/doc/tavelo/html/handleiding.html"
 
 # What the package system writes down about itself, and what is made anew of what is installed.
@@ -134,8 +135,8 @@ def in_amber(bediening):
 
 
 def gebruik(debian, uitvoer):
-    rooster = debian.root / ROOSTER[1:]
-    shutil.copy(EXAMPLES / "springen.rst", rooster)
+    for voorbeeld in VOORBEELDEN:
+        shutil.copy(EXAMPLES / voorbeeld, debian.root / THUIS[1:])
     with Scherm() as scherm:
         try:
             gebruik_op(scherm, debian)
@@ -168,9 +169,8 @@ def gebruik_op(scherm, debian):
     bediening.gekozen_rij(beeld)
 
     stap("een startlijst uit Excel")
-    shutil.copy(EXAMPLES / "startlijst.xlsx", debian.root / THUIS[1:])
-    bediening.open(f"{THUIS}/startlijst.xlsx")
-    bediening.wacht_op_bijschrift(dump.lees(f"{THUIS}/startlijst.xlsx")["bijschrift"])
+    bediening.open(STARTLIJST)
+    bediening.wacht_op_bijschrift(dump.lees(STARTLIJST)["bijschrift"])
 
     stap("F1 zonder browser, en met een")
     bediening.hoofd.activeer()
@@ -192,6 +192,8 @@ def gebruik_op(scherm, debian):
     bediening.druk("alt+F4")
     wacht_tot(lambda: bediening.proces.poll() is not None, "het einde van het programma")
     eis(bediening.proces.returncode == 0, f"het programma eindigt met {bediening.proces.returncode}")
+    for voorbeeld in VOORBEELDEN:
+        (debian.root / THUIS[1:] / voorbeeld).unlink()
 
 
 def verwijder(debian, eerst):

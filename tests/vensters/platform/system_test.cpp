@@ -1,4 +1,3 @@
-#include "platform/codeTransparency.h"
 #include "platform/codeWindowPos.h"
 #include "platform/icons.h"
 #include "platform/pointer.h"
@@ -36,16 +35,6 @@ TEST(ZetBovenaan, verandert_alleen_de_orde_niet_plaats_maat_of_zichtbaarheid) {
     EXPECT_TRUE(venster.isVisible());
 }
 
-TEST(ZetTransparantie, gaat_van_onzichtbaar_naar_ondoorzichtig) {
-    QWidget venster;
-    zet_transparantie(venster, 0);
-    EXPECT_EQ(venster.windowOpacity(), 0);
-    zet_transparantie(venster, 51);
-    EXPECT_NEAR(venster.windowOpacity(), 0.2, 0.005);
-    zet_transparantie(venster, 255);
-    EXPECT_EQ(venster.windowOpacity(), 1);
-}
-
 TEST(Application, wat_het_toolkit_aan_plaatjes_bewaart_heeft_een_grens) {
     EXPECT_LE(QPixmapCache::cacheLimit(), 512); // KiB
 }
@@ -68,16 +57,10 @@ TEST(SystemFolders, de_mappen_van_de_gebruiker_hebben_een_pad_zonder_streep_aan_
         const std::optional<std::string> pad = mappen.path(csidl);
         ASSERT_TRUE(pad) << csidl;
         EXPECT_TRUE(QDir::isAbsolutePath(qt_text(*pad))) << *pad;
-        EXPECT_FALSE(pad->ends_with('/')) << *pad;
+        EXPECT_FALSE(pad->ends_with('/') || pad->ends_with('\\')) << *pad;
     }
-    EXPECT_EQ(mappen.path(5), utf8(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
-}
-
-TEST(SystemFolders, een_map_die_het_systeem_niet_kent_is_er_niet) {
-    const SystemFolders mappen;
-    EXPECT_EQ(mappen.path(18), std::nullopt);
-    EXPECT_EQ(mappen.path(19), std::nullopt);
-    EXPECT_EQ(mappen.path(-1), std::nullopt);
+    const QString documenten = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    EXPECT_EQ(mappen.path(5), utf8(QDir::toNativeSeparators(documenten)));
 }
 
 TEST(Kleuren, het_laagste_byte_is_rood_heen_en_terug) {

@@ -25,17 +25,19 @@ std::expected<std::vector<std::byte>, OpenFailure> read_whole_file(std::string_v
     const auto known = plain.kenmerk();
     if (known && known->grootte > largest_workbook_file) return std::unexpected(OpenFailure::too_large);
 
-    std::vector<std::byte> bytes;
     constexpr std::size_t step = 1024 * 1024;
-    for (std::optional<std::size_t> count = step; count != std::size_t{0};) {
-        if (bytes.size() > largest_workbook_file) return std::unexpected(OpenFailure::too_large);
-        const std::size_t had = bytes.size();
-        bytes.resize(had + step);
-        count = plain.read(reinterpret_cast<char*>(bytes.data() + had), step);
+    std::vector<std::byte> bytes(known ? known->grootte + 1 : step); // one more, to meet the end at once
+    std::size_t size = 0;
+    while (size <= largest_workbook_file) {
+        if (size == bytes.size()) bytes.resize(size + step);
+        const auto count = plain.read(reinterpret_cast<char*>(bytes.data() + size), bytes.size() - size);
         if (!count) return std::unexpected(OpenFailure::unreadable);
-        bytes.resize(had + *count);
+        size += *count;
+        if (*count != 0) continue;
+        bytes.resize(size);
+        return bytes;
     }
-    return bytes;
+    return std::unexpected(OpenFailure::too_large);
 }
 
 bool begins_as_zip(const std::vector<std::byte>& bytes) {

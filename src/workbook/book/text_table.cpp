@@ -2,8 +2,7 @@
 
 namespace tavelo {
 
-std::string_view cut_to_longest(std::string_view text) {
-    if (text.size() <= longest_text) return text;
+std::string_view cut_long_text(std::string_view text) {
     std::size_t units = 0;
     for (std::size_t at = 0; at < text.size(); ++at) {
         const auto byte = static_cast<unsigned char>(text[at]);
@@ -13,12 +12,6 @@ std::string_view cut_to_longest(std::string_view text) {
         if (units > longest_text) return text.substr(0, at);
     }
     return text;
-}
-
-std::string_view TextTable::operator[](std::size_t index) const {
-    if (index >= ends_.size()) return {};
-    const std::size_t begin = index == 0 ? 0 : ends_[index - 1];
-    return std::string_view(bytes_).substr(begin, ends_[index] - begin);
 }
 
 std::optional<std::uint32_t> TextTable::add(std::string_view text) {

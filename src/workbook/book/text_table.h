@@ -17,7 +17,10 @@ inline constexpr std::size_t longest_text = 32767;
 inline constexpr std::size_t longest_text_bytes = 3 * longest_text;
 
 // The first longest_text units of a UTF-8 text; no character is cut in two.
-[[nodiscard]] std::string_view cut_to_longest(std::string_view text);
+[[nodiscard]] std::string_view cut_long_text(std::string_view text);
+[[nodiscard]] inline std::string_view cut_to_longest(std::string_view text) {
+    return text.size() <= longest_text ? text : cut_long_text(text); // nearly every text is short, whatever its letters
+}
 
 // A workbook with more texts than this, or more bytes of them, is refused as too large.
 inline constexpr std::size_t most_texts = std::size_t{1} << 23;
@@ -27,7 +30,11 @@ class TextTable {
   public:
     [[nodiscard]] std::size_t size() const { return ends_.size(); }
     // UTF-8, "" beyond the last. Holds until the next text is added.
-    [[nodiscard]] std::string_view operator[](std::size_t index) const;
+    [[nodiscard]] std::string_view operator[](std::size_t index) const {
+        if (index >= ends_.size()) return {};
+        const std::size_t begin = index == 0 ? 0 : ends_[index - 1];
+        return std::string_view(bytes_).substr(begin, ends_[index] - begin);
+    }
     // Adds the text, cut to the longest, and gives its index; nothing when the table is full.
     [[nodiscard]] std::optional<std::uint32_t> add(std::string_view text);
     void clear();

@@ -185,8 +185,10 @@ class CompoundFile {
     }
 
     [[nodiscard]] std::vector<std::byte> read_chain(std::uint32_t first) const {
+        const std::vector<std::uint32_t> chain = chain_of(first, sector_table_);
         std::vector<std::byte> bytes;
-        for (const std::uint32_t number : chain_of(first, sector_table_))
+        bytes.reserve(std::min(chain.size() * sector_size_, file_.size()));
+        for (const std::uint32_t number : chain)
             append(bytes, sector(number));
         return bytes;
     }

@@ -47,6 +47,7 @@ void append_utf8(std::string& text, std::uint32_t character) {
 
 std::string without_escapes(std::string_view text) {
     constexpr std::uint32_t replacement = 0xFFFD;
+    if (!text.contains('_')) return std::string(text);
     std::string plain;
     plain.reserve(text.size());
     while (!text.empty()) {

@@ -134,6 +134,7 @@ TEST(Utf16, met_een_half_paar_krijgt_een_vervangingsteken) {
     EXPECT_EQ(of({0xD800, 0xE000}), "\uFFFD\uE000");
     EXPECT_EQ(of({0xD7FF, 0xDC00}), "\uD7FF\uFFFD");
     EXPECT_EQ(of({0xDBFF, 0xDFFF}), "\U0010FFFF");
+    EXPECT_EQ(utf8_of(std::u16string_view(u"\U0001F40E").substr(0, 1)), "\uFFFD"); // the other half is not its own
 }
 
 } // namespace

@@ -174,6 +174,7 @@ TEST(XlsSlot, rc4_blijft_lang_de_bekende) {
 TEST(XlsSlot, rc4_van_40_bits_gaat_vanzelf_open) {
     const Locking lock = rc4_with({"e0f0f3ab5b2c55a6fff6d99ae30691fb", "cdb235c584cc3283c74f3970baac0043"});
     EXPECT_EQ(shown(locked(book_with(weak_lock), lock)), all_cells);
+    EXPECT_EQ(open_xls(locked(book_with(weak_lock), lock).bytes()).value()->sheets()[0].name, "Blad1");
 }
 
 TEST(XlsSlot, rc4_van_gekozen_sterkte_gaat_vanzelf_open) {

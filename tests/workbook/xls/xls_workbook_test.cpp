@@ -1,4 +1,6 @@
 // The workbook around the cells: sheets, styles, code pages, used range, column widths, versions, damage.
+#include "workbook/xls/biff_stream.h"
+
 #include "xls_bytes.h"
 
 #include <gtest/gtest.h>
@@ -127,6 +129,23 @@ TEST(XlsWerkmap, een_blad_waar_zijn_naam_naast_wijst_wordt_gevonden) {
     Bytes far = good;
     far.put_u32(first_offset, 0x7FFFFFFF);
     EXPECT_EQ(shown(far), Shown{"A1=2"}); // the last sheet is the nearest
+}
+
+TEST(XlsWerkmap, een_blad_wordt_gezocht_bij_het_dichtste_begin) {
+    const Bytes good = book_8({{.name = "a", .records = number(0, 0, 1)}, {.name = "b", .records = number(0, 0, 2)}});
+    constexpr std::size_t bof_size = 20;
+    constexpr std::size_t name_size = 4 + 9;
+    constexpr std::size_t second_offset = bof_size + name_size + 4;
+    constexpr std::uint32_t sheet_size = bof_size + 18 + 4; // BOF, the number, EOF
+    const std::uint32_t second = long_at(good.bytes(), second_offset);
+    ASSERT_EQ(second - long_at(good.bytes(), bof_size + 4), sheet_size);
+    for (const auto& [back, value] : {std::pair{1U, "A1=2"},
+                                      {7U, "A1=2"},
+                                      {sheet_size / 2 - 1, "A1=2"},
+                                      {sheet_size / 2, "A1=1"},
+                                      {sheet_size / 2 + 1, "A1=1"},
+                                      {sheet_size - 1, "A1=1"}})
+        EXPECT_EQ(shown(Bytes(good).put_u32(second_offset, second - back), 1), Shown{value}) << back;
 }
 
 TEST(XlsWerkmap, een_grafiek_in_een_blad_is_niet_het_blad_dat_gezocht_wordt) {

@@ -71,6 +71,13 @@ TEST(CellText, elke_code_heeft_zijn_eigen_teken) {
         EXPECT_EQ(without_escapes(stored), text) << stored;
 }
 
+TEST(CellText, een_code_houdt_op_waar_de_tekst_ophoudt) {
+    constexpr std::string_view whole = "_xD83D__xDC0E_";
+    EXPECT_EQ(without_escapes(whole.substr(0, 6)), "_xD83D");
+    EXPECT_EQ(without_escapes(whole.substr(0, 1)), "_");
+    EXPECT_EQ(without_escapes(whole.substr(0, 13)), "\uFFFD_xDC0E");
+}
+
 TEST(OpgeslagenTekst, van_een_tekst_past_precies_wat_mag) {
     constexpr std::size_t most = 7 * longest_text;
     std::string stored(most - 1, 'x');

@@ -195,6 +195,22 @@ TEST(XlsxPakket, een_documenttype_wordt_geweigerd) {
     EXPECT_EQ(sheet_failure(zip_of(parts)), OpenFailure::damaged);
 }
 
+TEST(XlsxPakket, vier_bytes_zijn_genoeg_om_er_een_te_willen_zijn) {
+    const auto failure = [](std::initializer_list<unsigned> values) {
+        std::vector<std::byte> bytes;
+        for (const unsigned value : values)
+            bytes.push_back(static_cast<std::byte>(value));
+        return open_failure(bytes);
+    };
+    EXPECT_EQ(failure({'P', 'K', 3, 4}), OpenFailure::damaged);
+    EXPECT_EQ(failure({'P', 'K', 3, 4, 0}), OpenFailure::damaged);
+    EXPECT_EQ(failure({'P', 'K', 3}), OpenFailure::not_a_workbook);
+    EXPECT_EQ(failure({'Q', 'K', 3, 4}), OpenFailure::not_a_workbook);
+    EXPECT_EQ(failure({'P', 'L', 3, 4}), OpenFailure::not_a_workbook);
+    EXPECT_EQ(failure({'P', 'K', 4, 4}), OpenFailure::not_a_workbook);
+    EXPECT_EQ(failure({'P', 'K', 3, 5}), OpenFailure::not_a_workbook);
+}
+
 TEST(XlsxPakket, te_diepe_nesting_wordt_geweigerd) {
     std::string deep = "<worksheet>";
     for (int i = 0; i < 100'000; ++i)

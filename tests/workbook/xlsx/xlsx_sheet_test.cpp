@@ -222,6 +222,7 @@ TEST(XlsxBlad, de_standaardstijl_wijst_haar_lettertype_aan) {
     EXPECT_EQ(width(fonts + style_of("2")), 54.0); // 11 points without a size
     EXPECT_EQ(width(fonts + style_of("3")), 54.0);
     EXPECT_EQ(width(fonts + style_of("4")), 48.0);
+    EXPECT_EQ(width(R"(<fonts><font><sz val="20"/></font><font><sz val="x"/></font></fonts>)" + style_of("1")), 54.0);
     EXPECT_EQ(width(fonts + "<cellStyleXfs><xf/></cellStyleXfs>"), 48.0);
     const std::string two = R"(<cellStyleXfs><xf fontId="0"/><xf fontId="1"/></cellStyleXfs>)";
     EXPECT_EQ(width(fonts + two), 48.0);

@@ -132,7 +132,7 @@ class ColumnWidths {
 
 class SheetReader {
   public:
-    SheetReader(BiffCursor cursor, const SheetContext& context, TextTable& texts)
+    SheetReader(BiffCursor cursor, const XlsSheetContext& context, TextTable& texts)
         : cursor_(cursor), context_(context), texts_(texts), widths_(context.digit_pixels) {}
 
     std::expected<Sheet, OpenFailure> read() {
@@ -180,7 +180,7 @@ class SheetReader {
     [[nodiscard]] std::uint32_t add_text(std::string_view text);
 
     BiffCursor cursor_;
-    const SheetContext& context_;
+    const XlsSheetContext& context_;
     TextTable& texts_;
     ColumnWidths widths_;
     Sheet sheet_;
@@ -413,7 +413,8 @@ void SheetReader::finish() {
 
 } // namespace
 
-std::expected<Sheet, OpenFailure> read_sheet_cells(BiffCursor cursor, const SheetContext& context, TextTable& texts) {
+std::expected<Sheet, OpenFailure> read_sheet_cells(BiffCursor cursor, const XlsSheetContext& context,
+                                                   TextTable& texts) {
     return SheetReader(cursor, context, texts).read();
 }
 

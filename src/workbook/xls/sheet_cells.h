@@ -13,7 +13,7 @@
 namespace tavelo {
 
 // What the workbook knows that the records of a sheet refer to.
-struct SheetContext {
+struct XlsSheetContext {
     TextEncoding encoding;
     std::span<const std::uint32_t> cell_formats; // by the number that cells store
     std::size_t shared_strings = 0;              // the first of the texts
@@ -22,7 +22,7 @@ struct SheetContext {
 
 // Reads behind the sheet's BOF record up to its end, or to the end of the stream. Substreams inside (charts) are passed
 // over. Texts that are no shared strings are added to `texts`. Fails on too many cells or texts only.
-[[nodiscard]] std::expected<Sheet, OpenFailure> read_sheet_cells(BiffCursor cursor, const SheetContext& context,
+[[nodiscard]] std::expected<Sheet, OpenFailure> read_sheet_cells(BiffCursor cursor, const XlsSheetContext& context,
                                                                  TextTable& texts);
 
 } // namespace tavelo

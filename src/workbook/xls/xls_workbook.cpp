@@ -214,10 +214,10 @@ std::expected<Sheet, OpenFailure> XlsWorkbook::sheet_at(std::size_t index) {
 
     const CellStyles styles = sheets_have_styles_ ? styles_of_sheet(cursor) : styles_;
     const std::vector<std::uint32_t> cell_formats = styles.cell_formats(encoding_.version, formats_);
-    const SheetContext context{.encoding = encoding_,
-                               .cell_formats = cell_formats,
-                               .shared_strings = shared_strings_,
-                               .digit_pixels = styles.normal_digit_pixels()};
+    const XlsSheetContext context{.encoding = encoding_,
+                                  .cell_formats = cell_formats,
+                                  .shared_strings = shared_strings_,
+                                  .digit_pixels = styles.normal_digit_pixels()};
     return read_sheet_cells(cursor, context, texts_);
 }
 

@@ -18,11 +18,13 @@ else()
     endif()
 endif()
 
-# libFuzzer finds its way by coverage, so the rules are built with its instrumentation as well. clang 16 hides <expected>
-# of libstdc++ 12 because it announces an older revision of concepts than it has.
-if(TAVELO_FUZZ)
+# clang 16 hides <expected> of libstdc++ 12 because it announces an older revision of concepts than it has.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     target_compile_options(tavelo_flags INTERFACE
-        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
         -Wno-builtin-macro-redefined -Wno-macro-redefined -D__cpp_concepts=202002L)
-    target_link_options(tavelo_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# libFuzzer finds its way by coverage, so the rules are built with its instrumentation as well.
+if(TAVELO_FUZZ)
+    target_compile_options(tavelo_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()

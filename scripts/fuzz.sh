@@ -12,9 +12,9 @@ shift || true
 targets=("$@")
 [ "${#targets[@]}" -gt 0 ] || mapfile -t targets < <(basename --multiple --suffix=.cpp fuzz/fuzz_*.cpp)
 
-install_missing "${packages_run[@]}" "${packages_fuzz[@]}"
-cmake --preset fuzz
-cmake --build build/fuzz --target "${targets[@]}"
+install_missing "${packages_run[@]}" "${packages_test[@]}" "${packages_fuzz[@]}"
+cmake --preset sanitize
+cmake --build build/sanitize --target "${targets[@]}"
 
 broken=()
 for target in "${targets[@]}"; do

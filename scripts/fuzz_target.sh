@@ -32,5 +32,5 @@ case $target in
 esac
 
 echo "== $target, $seconds s, from $(find "$seeds" "$corpus" -type f | wc -l) files"
-exec "build/fuzz/fuzz/$target" -max_total_time="$seconds" "${limits[@]}" -print_final_stats=1 \
+exec "build/sanitize/fuzz/$target" -max_total_time="$seconds" "${limits[@]}" -print_final_stats=1 \
     -artifact_prefix="build/fuzz/findings/$target-" "$corpus" "$seeds"

@@ -13,17 +13,13 @@ step "install"
 install_missing "${packages_run[@]}" "${packages_demo[@]}" "${packages_test[@]}" "${packages_fuzz[@]}"
 
 step "build: release, all targets, the benchmarks too though they do not run here"
-cmake --preset release -DTAVELO_TESTS=ON -DTAVELO_BENCH=ON -DTAVELO_SANITIZED_BUILD="$PWD/build/asan" \
+cmake --preset release -DTAVELO_TESTS=ON -DTAVELO_BENCH=ON -DTAVELO_SANITIZED_BUILD="$PWD/build/sanitize" \
     -DTAVELO_FUZZ_SECONDS=20
 cmake --build build/release --target all bench
 
-step "build: the rules with address and undefined-behaviour sanitizers"
-cmake --preset asan
-cmake --build build/asan --target kern_tests
-
-step "build: the fuzz targets"
-cmake --preset fuzz
-cmake --build build/fuzz --target fuzz
+step "build: the rules with address and undefined-behaviour sanitizers, for their tests and the fuzz targets"
+cmake --preset sanitize
+cmake --build build/sanitize --target kern_tests fuzz
 
 step "test"
 ctest --test-dir build/release --output-on-failure --parallel "$(nproc)" --no-tests=error

@@ -82,7 +82,7 @@ TEST_F(Geheugen, elke_toewijzing_mag_mislukken) {
           Bestand{TAVELO_TEST_DATA "/workbook/startlijst.xls", 50}, Bestand{folder.write("pagina.xls", page), 20},
           Bestand{folder.write("regels.xls", lines), 20}, Bestand{folder.write("xml.xls", xml), 20},
           Bestand{folder.write("ods.xls", {reinterpret_cast<const char*>(ods.data()), ods.size()}), 20}}) {
-        std::size_t failures = 0;
+        [[maybe_unused]] std::size_t failures = 0;
         for (std::size_t n = 1;; ++n) {
             Grid grid;
             test::FakeMessages messages;

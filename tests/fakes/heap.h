@@ -3,6 +3,13 @@
 
 #include <cstddef>
 
+// clang tells in another way than g++ that it builds for the address sanitizer.
+#ifdef __has_feature
+#if __has_feature(address_sanitizer) && !defined(__SANITIZE_ADDRESS__)
+#define __SANITIZE_ADDRESS__ 1
+#endif
+#endif
+
 namespace tavelo::test {
 
 // Bytes that the program asked for and has not given back yet.

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds everything with warnings as errors and runs every test of the project. The layer
-# check, the formatting, the demonstration and the rules under sanitizers are tests too, so that one summary of the test
-# runner closes the run.
+# check, the formatting, clang-tidy, the demonstration and the rules under sanitizers are tests too, so that one summary
+# of the test runner closes the run.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # shellcheck source=scripts/packages.sh

@@ -45,7 +45,7 @@ class Vuller {
     void vul(std::string_view record) {
         Parts items(record, '\t');
         for (Item deel = volgend_item(items); deel;) {
-            const std::string_view item = trimmed(*deel);
+            const std::string_view item = *deel;
             if (is_item_van(item, "dnr")) { // nearly all of them
                 deel = voeg_rij_toe(trimmed(item.substr(4)), items);
                 continue;

@@ -73,6 +73,14 @@ TEST(Herlees, van_twee_rijen_met_hetzelfde_nummer_wordt_alleen_de_eerste_bijgewe
     EXPECT_EQ(proef.grid.row_value(2), 0);
 }
 
+TEST(Herlees, een_nieuw_nummer_dat_twee_keer_in_het_bestand_staat_komt_er_een_keer_bij) {
+    Herleesproef proef(tekst_van({{1, "na:Jan"}}));
+    ASSERT_TRUE(proef.herlees("[Vendalo 3.4]\ndnr:1\tna:Jan\ndnr:5\tna:Piet\nrnr:1\trid:D1" + deelname("1") +
+                              deelname("5") + deelname("05")));
+    EXPECT_EQ(proef.nummers(), (Texts{"1", "5"}));
+    EXPECT_EQ(proef.grid.row_value(2), 3);
+}
+
 TEST(Herlees, alleen_hoofdletters_hc_of_dubbele_spaties_in_een_naam_is_geen_wijziging) {
     for (const std::string_view nieuw :
          {"na:JAN DE BOER", "na:Jan  de Boer", "na:jan de boer (HC)", "na: Jan de Boer ", "na:Jan (HC) de Boer",

@@ -264,6 +264,14 @@ TEST(VulRooster, achter_de_naam_staan_handicap_selectie_en_impuls) {
     EXPECT_EQ(cel(kolom_paard, "pa:Bles\td_res:1"), "Bles (res)");
 }
 
+TEST(VulRooster, in_een_samengestelde_naam_staat_niets_van_de_vorige) {
+    Roosterproef proef;
+    proef.schedule.zet_deelnemer(1, "na:Jan\td_gr:1\td_coup:1");
+    proef.schedule.zet_deelnemer(2, "na:Piet\td_sel:1\td_coup:1");
+    proef.vul("rcom:0" + deelname("1") + deelname("2"));
+    EXPECT_EQ(test::column_texts(proef.grid, kolom_naam), (Texts{"*Jan (impuls)", "*Piet (Sel)"}));
+}
+
 TEST(VulRooster, een_ster_voor_de_naam_hangt_van_de_coupe_af) {
     EXPECT_EQ(cel(kolom_naam, "na:*Jan"), "Jan");
     EXPECT_EQ(cel(kolom_naam, "na:**Jan*"), "*Jan*");

@@ -123,10 +123,18 @@ TEST(PlekVoorbeeld, het_voorbeeld_krijgt_de_vorm_van_de_muur) {
 TEST(PlekVoorbeeld, zonder_ruimte_of_zonder_muur_blijft_hij_op_zijn_uiterste) {
     constexpr Maat muur{1920, 1080};
     for (const Plek plek : {plek_voorbeeld({20000, 10000}, {20000, 10000}, {12000, 2000}, {0, 1080}),
+                            plek_voorbeeld({20000, 10000}, {20000, 10000}, {12000, 2000}, {1920, 0}),
+                            plek_voorbeeld({12120, 10000}, {30000, 20000}, {12000, 2000}, muur),
                             plek_voorbeeld({100, 10000}, {100, 10000}, {12000, 2000}, muur)}) {
         EXPECT_EQ(plek.links, 12000);
         EXPECT_EQ(plek.boven, 2000);
     }
+}
+
+TEST(PlekVoorbeeld, zonder_hoogte_in_het_bedoelde_venster_blijft_hij_op_zijn_uiterste) {
+    const Plek plek = plek_voorbeeld({20000, 8000}, {30000, 20000}, {12000, 7880}, {1920, 1080});
+    EXPECT_EQ(plek.links, 12000);
+    EXPECT_EQ(plek.boven, 7880);
 }
 
 TEST(PlekVoorbeeld, in_een_venster_dat_er_te_klein_voor_is_staat_hij_op_zijn_uiterste) {

@@ -269,6 +269,9 @@ TEST(Statusregel, zegt_waarom_er_niets_te_lezen_viel_zonder_berichtvenster) {
     laad_rooster(proef.bediening, 0);
     EXPECT_EQ(gezegd(), "weg.rst: kan niet geopend worden");
     EXPECT_TRUE(statusregel(proef.bediening).lijst.let_op);
+    kies_bestand(proef.bediening, " " + proef.map.file("weg.rst") + " ", 0);
+    laad_rooster(proef.bediening, 0);
+    EXPECT_EQ(gezegd(), "weg.rst: is geen roosterbestand");
     proef.open("leeg.rst", {});
     EXPECT_EQ(gezegd(), "de lijst is leeg");
     proef.open("proef.rst", elise_en_jan);

@@ -235,6 +235,13 @@ TEST(Grid, de_huidige_cel_blijft_binnen_het_grid) {
     EXPECT_EQ(grid.column(), 0);
 }
 
+TEST(Grid, de_selectie_eindigt_in_een_kolom_die_er_is) {
+    Grid grid = grid_van(2, 4);
+    grid.set_selection_column(3);
+    grid.set_columns(2);
+    EXPECT_EQ(grid.selection_column(), 1);
+}
+
 TEST(Grid, een_rij_erboven_verschuift_wat_er_geselecteerd_is) {
     Grid grid = grid_met("abc");
     grid.set_row(2);

@@ -207,6 +207,15 @@ TEST_F(ToonCombinatie, de_kop_staat_eenmaal_in_de_band_met_de_eigen_uitlijning) 
     EXPECT_EQ(vlak.regels().at(0).x, 3 * 32); // the lines of the participant have their own
 }
 
+TEST_F(ToonCombinatie, van_een_vorige_kop_staat_er_niets_meer) {
+    open_rooster();
+    instelling.showrubric = 1;
+    toon();
+    programma.schedule.huidige_rubriek.rcat.clear();
+    toon();
+    EXPECT_EQ(teksten(band), (Teksten{"Dressuur", "Klasse Z1"}));
+}
+
 TEST_F(ToonCombinatie, zonder_kop_blijft_de_band_staan) {
     open_rooster();
     programma.schedule.huidige_rubriek.rkla.clear();

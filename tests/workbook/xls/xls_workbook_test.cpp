@@ -348,7 +348,7 @@ TEST(XlsWerkmap, de_eerste_versie_heeft_eigen_cellen) {
     Bytes file;
     file.record(0x0009, Bytes().u16(2).u16(worksheet));
     file.record(0x001E, Bytes().u8(7).narrow("General")).record(0x001E, Bytes().u8(4).narrow("0.00"));
-    file.record(0x0024, Bytes().u8(1).u8(1).u16(2560));
+    file.record(0x0024, Bytes().u8(1).u8(2).u16(2560));
     file.record(0x0002, cell(0, 0, 1).u16(42)).record(0x0003, cell(0, 1, 0).f64(2.5));
     file.record(0x0004, cell(1, 0, 0).u8(4).narrow("Oud\xE9")).record(0x0005, cell(1, 1, 0).u8(1).u8(0));
     file.record(0x0001, cell(4, 4, 0));
@@ -358,7 +358,7 @@ TEST(XlsWerkmap, de_eerste_versie_heeft_eigen_cellen) {
     const auto workbook = open_xls(file.bytes());
     const auto sheet = (*workbook)->read_sheet(0);
     EXPECT_EQ(sheet->used.rows, 5U);
-    EXPECT_EQ(sheet->column_widths, (std::vector<double>{48.0, 52.5}));
+    EXPECT_EQ(sheet->column_widths, (std::vector<double>{48.0, 52.5, 52.5}));
     EXPECT_EQ((*workbook)->formats()[sheet->cells[0].format], "0.00");
 }
 

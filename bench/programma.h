@@ -9,6 +9,7 @@
 #include "basis/number.h"
 #include "basis/system_time.h"
 #include "excel/builtin_excel.h"
+#include "platform/browser.h"
 #include "platform/fonts.h"
 #include "platform/pointer.h"
 #include "platform/post.h"
@@ -95,12 +96,14 @@ struct EchtProgramma {
     LegeOpslag opslag;
     GeenMappen mappen;
     BackgroundReader lezer;
+    SystemBrowser browser;                                            // nobody presses F1
     std::function<void(frmTavelo&)> instellingen = [](frmTavelo&) {}; // what opening the settings does
     std::unique_ptr<ExcelApplication> excel = builtin_excel(locale_named("nl-NL"));
     Programma programma;
     Bediening bediening{
         programma, {meter, berichten, open_dialoog, tijdstempels, klok, muisaanwijzer, logboek, *excel}, {}, {}};
-    frmTavelo venster{bediening, {opslag, mappen, lezer, ".", [] {}, [this](frmTavelo& v) { instellingen(v); }}};
+    frmTavelo venster{bediening,
+                      {opslag, mappen, lezer, browser, ".", [] {}, [this](frmTavelo& v) { instellingen(v); }}};
 };
 
 } // namespace tavelo

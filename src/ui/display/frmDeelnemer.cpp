@@ -51,6 +51,12 @@ frmDeelnemer::frmDeelnemer(Programma& programma, Vertoning& vertoning, std::func
     setAttribute(Qt::WA_ShowWithoutActivating);
     programma_.deelnemer_open = true;
 
+    na_klik_.setInterval(100);
+    connect(&na_klik_, &QTimer::timeout, this, [this] {
+        if (beeldvullend() && isActiveWindow()) geef_toetsen_terug();
+        if (--keren_na_klik_ == 0) na_klik_.stop();
+    });
+
     const auto volg = [this] { pas_schermen_toe(aanwezige_schermen()); };
     const auto volg_scherm = [this, volg](QScreen* screen) {
         connect(screen, &QScreen::availableGeometryChanged, this, volg);
@@ -210,10 +216,17 @@ void frmDeelnemer::keyPressEvent(QKeyEvent* event) {
     event->ignore();
 }
 
-// Nothing can be typed on the wall, and nobody sees there that the keys go to it.
+// Nothing can be typed on the wall, and nobody sees there that the keys go to it. The window manager gives them to a
+// window that is clicked, on a busy computer only after this event; so for two seconds they are given back again.
 void frmDeelnemer::mouseReleaseEvent(QMouseEvent* event) {
     QWidget::mouseReleaseEvent(event);
     if (!beeldvullend()) return;
+    geef_toetsen_terug();
+    keren_na_klik_ = 20;
+    na_klik_.start();
+}
+
+void frmDeelnemer::geef_toetsen_terug() {
     eigenaar_.activateWindow();
     nummervak_.setFocus();
     raise();

@@ -14,6 +14,8 @@
 #include "ui/display/frmTekenvlak.h"
 #include "ui/display/schermkeuze.h"
 
+#include <QTimer>
+
 #include <functional>
 #include <vector>
 
@@ -67,6 +69,7 @@ class frmDeelnemer final : public QWidget {
     void verhuis(const Schermvlak& plaats, bool daarna_beeldvullend);
     void wijk_uit();
     void keer_terug(const Schermvlak& eigen_scherm);
+    void geef_toetsen_terug();
     [[nodiscard]] bool staat_in_de_weg() const; // on the operator's screen
     // A screen without the main window, and the place on it; without one beside the main window.
     [[nodiscard]] std::optional<std::size_t> vrij_scherm() const;
@@ -80,6 +83,8 @@ class frmDeelnemer final : public QWidget {
     QWidget& nummervak_;
     VertoningWidget picDeelnemer_;
     KeepAwake wakker_;
+    QTimer na_klik_;
+    int keren_na_klik_ = 0;
     bool gesloten_ = false;
     bool mag_sluiten_ = false; // also in full screen
 

@@ -53,7 +53,10 @@ frmDeelnemer::frmDeelnemer(Programma& programma, Vertoning& vertoning, std::func
 
     na_klik_.setInterval(100);
     connect(&na_klik_, &QTimer::timeout, this, [this] {
-        if (beeldvullend() && isActiveWindow()) geef_toetsen_terug();
+        if (beeldvullend() && isActiveWindow())
+            geef_toetsen_terug();
+        else if (had_toetsen_)
+            na_klik_.stop();
         if (--keren_na_klik_ == 0) na_klik_.stop();
     });
 
@@ -217,13 +220,20 @@ void frmDeelnemer::keyPressEvent(QKeyEvent* event) {
 }
 
 // Nothing can be typed on the wall, and nobody sees there that the keys go to it. The window manager gives them to a
-// window that is clicked, on a busy computer only after this event; so for two seconds they are given back again.
+// window that is clicked, on a busy computer only after this event; so for two seconds they are given back again, until
+// that has been seen to work.
 void frmDeelnemer::mouseReleaseEvent(QMouseEvent* event) {
     QWidget::mouseReleaseEvent(event);
     if (!beeldvullend()) return;
+    had_toetsen_ = isActiveWindow();
     geef_toetsen_terug();
     keren_na_klik_ = 20;
     na_klik_.start();
+}
+
+void frmDeelnemer::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) had_toetsen_ = true;
 }
 
 void frmDeelnemer::geef_toetsen_terug() {

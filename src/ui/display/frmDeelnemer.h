@@ -60,6 +60,7 @@ class frmDeelnemer final : public QWidget {
     void moveEvent(QMoveEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool nativeEvent(const QByteArray& soort, void* bericht, qintptr* uitkomst) override;
 
@@ -85,6 +86,7 @@ class frmDeelnemer final : public QWidget {
     KeepAwake wakker_;
     QTimer na_klik_;
     int keren_na_klik_ = 0;
+    bool had_toetsen_ = false; // since the click
     bool gesloten_ = false;
     bool mag_sluiten_ = false; // also in full screen
 

@@ -162,7 +162,8 @@ std::optional<std::size_t> plain_prolog(std::string_view bytes) {
     }
     while (!rest.empty() && (class_of(rest.front()) & blank) != 0)
         rest.remove_prefix(1);
-    if (!rest.starts_with('<') || rest.starts_with("<?")) return std::nullopt;
+    constexpr std::string_view utf_16("<\0", 2); // told by its first two bytes
+    if (!rest.starts_with('<') || rest.starts_with("<?") || rest.starts_with(utf_16)) return std::nullopt;
     return bytes.size() - rest.size();
 }
 

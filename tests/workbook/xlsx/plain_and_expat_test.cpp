@@ -36,6 +36,7 @@ const std::vector<std::string> well_formed = {
     "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a>Zo\xEB</a>",
     "<?xml version=\"1.0\" encoding=\"windows-1252\"?><a>\x80</a>",
     std::string("\xFF\xFE<\0a\0/\0>\0", 10),
+    std::string("<\0a\0/\0>\0", 8),
     "<a><b/><b></b><b>x</b><c><b><b>y</b></b></c></a>",
     "<x:a xmlns:x=\"u\" x:b=\"1\" b=\"2\"><x:c.d-e_9/></x:a>",
     "<a b=\"1\" c='2'\n\td = \"3\"/>",

@@ -119,6 +119,7 @@ TEST(PlainXml, kent_de_gewone_aanhef) {
           "<?xml version=\"1.0\" standalone=\"yes\" encoding=\"UTF-8\"?><a>", "\xFF\xFE<", "<?xm",
           " <?xml version=\"1.0\"?><a>"})
         EXPECT_EQ(plain_prolog(other), std::nullopt) << other;
+    EXPECT_EQ(plain_prolog(std::string_view("<\0a\0/\0>\0", 8)), std::nullopt); // UTF-16 without a byte order mark
 }
 
 } // namespace

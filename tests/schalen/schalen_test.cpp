@@ -1,13 +1,8 @@
-#include "fakes/file_readers.h"
-#include "fakes/opstelling.h"
-#include "fakes/temp_folder.h"
+#include "fakes/hoofdvenster.h"
 #include "ui/display/frmDeelnemer.h"
-#include "ui/main/frmTavelo.h"
 
-#include <QAction>
 #include <QGuiApplication>
 #include <QImage>
-#include <QLineEdit>
 #include <QScreen>
 #include <QTest>
 #include <QWindow>
@@ -36,37 +31,18 @@ QRect inkt(const QImage& beeld) {
     return vlak;
 }
 
-struct GemengdeSchalen : testing::Test {
-    test::TempFolder map;
-    test::Opstelling opstelling;
-    test::FakeSettings opslag;
-    test::FakeSpecialFolders mappen;
-    test::FakeBrowser browser;
-    test::DirectReader lezer;
-    std::unique_ptr<frmTavelo> venster;
+struct GemengdeSchalen : test::MetHoofdvenster {
     QWidget* monitor = nullptr;
 
     void SetUp() override {
-        opstelling.programma.instellingen = laad_instellingen(opslag);
-        mappen.folders[5] = map.file("");
-        venster = std::make_unique<frmTavelo>(
-            opstelling.bediening,
-            TaveloOmgeving{opslag, mappen, lezer, browser, map.file("programma"), [] {}, [](frmTavelo&) {}});
-        venster->laad();
-        opstelling.open_dialoog.answer =
-            map.write("proef.rst", "[Vendalo 3.4]\r\nsinglesignin:0\r\nhoofdstelnummerautomatisch:False\r\n"
-                                   "dnr:7\ttype:1\tna:Hendrika Hamersma\tpa:Hilde\r\n"
-                                   "rnr:1\trid:S1\trcom:2\trkla:*B*\trcat:*A*\tdnr:7\t0\t\t0\t\t0\t\r\n");
-        venster->findChild<QAction*>("mnuBestand0")->trigger();
-        QTest::keyClicks(venster->findChild<QLineEdit*>("txtINR"), "7");
-        venster->findChild<QAction*>("mnuPopup")->trigger();
-        monitor = venster->findChild<QWidget*>("frmDeelnemer");
-        ASSERT_NE(monitor, nullptr);
+        MetHoofdvenster::SetUp();
+        open(map.write("proef.rst", "[Vendalo 3.4]\r\nsinglesignin:0\r\nhoofdstelnummerautomatisch:False\r\n"
+                                    "dnr:7\ttype:1\tna:Hendrika Hamersma\tpa:Hilde\r\n"
+                                    "rnr:1\trid:S1\trcom:2\trkla:*B*\trcat:*A*\tdnr:7\t0\t\t0\t\t0\t\r\n"));
+        typ("7");
+        wissel_monitor();
+        monitor = &vind("frmDeelnemer");
         QCoreApplication::processEvents();
-    }
-    void TearDown() override {
-        venster.reset();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 };
 

@@ -1,18 +1,12 @@
 // The main window and its poll while the system is slow or fails: the real windows on the real reader.
 #include "basis/background_reader.h"
 #include "basis/system_time.h"
-#include "fakes/opstelling.h"
-#include "fakes/temp_folder.h"
+#include "fakes/hoofdvenster.h"
 #include "platform/post.h"
-#include "platform/qt_text.h"
 #include "schedule/record/kolommen.h"
 #include "storing/storing.h"
-#include "ui/main/frmTavelo.h"
 
-#include <QAction>
-#include <QLineEdit>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -39,22 +33,13 @@ std::string rooster(const std::string& naam) {
     return tekst + "rnr:1\troms:Finale" + lijst + "\r\n";
 }
 
-struct PollOpEenSlechteShare : testing::Test {
-    test::TempFolder map;
-    test::Opstelling opstelling;
-    test::FakeSettings opslag;
-    test::FakeSpecialFolders mappen;
-    test::FakeBrowser browser;
-    BackgroundReader lezer{post_to_interface};
-    std::unique_ptr<frmTavelo> venster;
+struct PollOpEenSlechteShare : test::MetHoofdvenster {
+    BackgroundReader draad{post_to_interface};
+    FileReader& lezer_van_de_poll() override { return draad; }
     std::string pad = map.write("finale.rst", rooster("Jan"));
 
     void SetUp() override {
-        opstelling.programma.instellingen = laad_instellingen(opslag);
-        venster =
-            std::make_unique<frmTavelo>(opstelling.bediening, TaveloOmgeving{opslag, mappen, lezer, browser,
-                                                                             map.file(""), [] {}, [](frmTavelo&) {}});
-        venster->laad();
+        MetHoofdvenster::SetUp();
         een_uur_geleden();
     }
     ~PollOpEenSlechteShare() override { stoor(""); }
@@ -63,23 +48,16 @@ struct PollOpEenSlechteShare : testing::Test {
     void een_uur_geleden() const {
         std::filesystem::last_write_time(pad, std::filesystem::file_time_type::clock::now() - 1h);
     }
-    void open() {
-        opstelling.open_dialoog.answer = pad;
-        venster->findChild<QAction*>("mnuBestand0")->trigger();
-    }
+    void open() { MetHoofdvenster::open(pad); }
     void herschrijf(const std::string& naam) const {
         map.write("finale.rst", rooster(naam));
         een_uur_geleden(); // a finer time than before, and a later stamp than the fakes know
     }
-    void begin_tik() const {
-        QMetaObject::invokeMethod(venster->findChild<QTimer*>("Timer1"), "timeout", Qt::DirectConnection);
+    void tik_en_wacht() {
+        tik();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !draad.busy(); }, 60'000));
     }
-    void tik() {
-        begin_tik();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !lezer.busy(); }, 60'000));
-    }
-    [[nodiscard]] QLineEdit& txtINR() const { return *venster->findChild<QLineEdit*>("txtINR"); }
-    [[nodiscard]] std::string naam() const { return std::string(opstelling.programma.grdRooster.text(1, kolom_naam)); }
+    [[nodiscard]] std::string naam() const { return std::string(programma.grdRooster.text(1, kolom_naam)); }
     [[nodiscard]] bool staat_op_het_voorbeeld(const std::string& tekst) const {
         const auto& regels = opstelling.bediening.voorbeeld.picDeelnemer.regels();
         return std::ranges::any_of(regels, [&](const GeplaatsteTekst& regel) { return regel.tekst == tekst; });
@@ -91,16 +69,16 @@ TEST_F(PollOpEenSlechteShare, een_herlezing_die_halverwege_mislukt_laat_de_lijst
     EXPECT_EQ(naam(), "Jan 1");
     herschrijf("Piet");
     stoor("read *.rst EIO 2");
-    tik();
+    tik_en_wacht();
     EXPECT_EQ(geraakt(0), 1);
     EXPECT_EQ(naam(), "Jan 1");
-    EXPECT_EQ(opstelling.programma.grdRooster.rows(), 41);
-    EXPECT_EQ(opstelling.programma.leesfout, GeenRooster::lezen_mislukt);
+    EXPECT_EQ(programma.grdRooster.rows(), 41);
+    EXPECT_EQ(programma.leesfout, GeenRooster::lezen_mislukt);
     stoor("read *.rst EINTR 1-3; read *.rst max7");
-    tik();
+    tik_en_wacht();
     EXPECT_EQ(naam(), "Piet 1");
-    EXPECT_EQ(opstelling.programma.grdRooster.rows(), 41);
-    EXPECT_EQ(opstelling.programma.leesfout, std::nullopt);
+    EXPECT_EQ(programma.grdRooster.rows(), 41);
+    EXPECT_EQ(programma.leesfout, std::nullopt);
 }
 
 TEST_F(PollOpEenSlechteShare, een_opening_die_mislukt_geeft_een_lege_lijst_die_vanzelf_komt) {
@@ -108,12 +86,12 @@ TEST_F(PollOpEenSlechteShare, een_opening_die_mislukt_geeft_een_lege_lijst_die_v
     for (const std::string fout : {"read *.rst EIO 2", "open *.rst EMFILE"}) {
         stoor(fout);
         open();
-        EXPECT_EQ(opstelling.programma.grdRooster.rows(), 1);
-        EXPECT_NE(opstelling.programma.leesfout, std::nullopt);
-        EXPECT_EQ(opstelling.programma.slots[0].bestand, pad);
+        EXPECT_EQ(programma.grdRooster.rows(), 1);
+        EXPECT_NE(programma.leesfout, std::nullopt);
+        EXPECT_EQ(programma.slots[0].bestand, pad);
     }
     stoor("");
-    tik();
+    tik_en_wacht();
     EXPECT_EQ(naam(), "Jan 1");
     EXPECT_TRUE(opstelling.berichten.shown.empty());
 }
@@ -125,21 +103,20 @@ TEST_P(DodeShare, alles_gaat_door_en_niets_wacht_erop) {
     open();
     herschrijf("Piet");
     stoor(GetParam());
-    begin_tik();
+    tik();
     ASSERT_TRUE(QTest::qWaitFor([] { return geraakt(0) > 0; }, 60'000));
     std::chrono::steady_clock::duration langste{};
     for (int n = 1; n <= 40; ++n) {
         const auto begin = std::chrono::steady_clock::now();
-        txtINR().selectAll();
-        QTest::keyClicks(&txtINR(), QString::number(n));
+        typ(std::to_string(n).c_str());
         QEvent beeld(QEvent::UpdateRequest); // what the screen's next frame would ask for
         QCoreApplication::sendEvent(venster.get(), &beeld);
         langste = std::max(langste, std::chrono::steady_clock::now() - begin);
         EXPECT_TRUE(staat_op_het_voorbeeld("Jan " + std::to_string(n)));
-        begin_tik(); // and no other read begins
+        tik(); // and no other read begins
     }
     std::cout << "longest number while a read hangs: " << langste / 1us << " us\n";
-    EXPECT_TRUE(lezer.busy());
+    EXPECT_TRUE(draad.busy());
     EXPECT_EQ(geraakt(0), 1);
     venster->close();
     EXPECT_EQ(opslag.flushes, 1);

@@ -1,8 +1,6 @@
 #include "ui/main/frmTavelo.h"
 
-#include "fakes/file_readers.h"
-#include "fakes/opstelling.h"
-#include "fakes/temp_folder.h"
+#include "fakes/hoofdvenster.h"
 #include "platform/codeWindowPos.h"
 #include "platform/qt_text.h"
 #include "schedule/record/kolommen.h"
@@ -45,57 +43,20 @@ std::string roosterbestand(const std::vector<int>& nummers, const std::string& n
     return tekst;
 }
 
-struct FrmTavelo : testing::Test {
-    test::TempFolder map;
-    test::Opstelling opstelling;
-    test::FakeSettings opslag;
-    test::FakeSpecialFolders mappen;
-    test::FakeBrowser browser;
-    test::DirectReader lezer;
-    virtual FileReader& lezer_van_de_poll() { return lezer; }
-    Programma& programma = opstelling.programma;
-    int intros = 0;
-    int instellingen_getoond = 0;
+struct FrmTavelo : test::MetHoofdvenster {
     bool muiswiel = true;
-    std::unique_ptr<frmTavelo> venster;
 
     void SetUp() override {
-        programma.instellingen = laad_instellingen(opslag);
         programma.muiswiel_aanwezig = muiswiel;
-        mappen.folders[5] = map.file("documenten");
-        venster = std::make_unique<frmTavelo>(
-            opstelling.bediening, TaveloOmgeving{opslag, mappen, lezer_van_de_poll(), browser, map.file("programma"),
-                                                 [this] { ++intros; }, [this](frmTavelo&) { ++instellingen_getoond; }});
-        venster->laad();
-        QCoreApplication::processEvents();
-    }
-    void TearDown() override {
-        venster.reset();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        MetHoofdvenster::SetUp();
     }
 
-    template <class Widget = QWidget>
-    [[nodiscard]] Widget& vind(const char* naam) const {
-        auto* gevonden = venster->findChild<Widget*>(naam);
-        if (!gevonden) throw std::runtime_error(std::string("geen ") + naam);
-        return *gevonden;
-    }
-    [[nodiscard]] QLineEdit& txtINR() const { return vind<QLineEdit>("txtINR"); }
-    [[nodiscard]] QTableView& grdRooster() const { return vind<QTableView>("grdRooster"); }
     [[nodiscard]] frmDeelnemer* deelnemer() const {
         for (QWidget* w : QApplication::topLevelWidgets())
             if (auto* gevonden = dynamic_cast<frmDeelnemer*>(w); gevonden && gevonden->isVisible()) return gevonden;
         return nullptr;
     }
-    void open(const std::string& pad) {
-        opstelling.open_dialoog.answer = pad;
-        vind<QAction>("mnuBestand0").trigger();
-    }
     void open_nummers(const std::vector<int>& nummers) { open(map.write("proef.rst", roosterbestand(nummers))); }
-    void typ(const char* tekst) const {
-        txtINR().selectAll();
-        QTest::keyClicks(&txtINR(), tekst);
-    }
 };
 
 TEST_F(FrmTavelo, een_bestand_dat_bij_de_start_genoemd_is_komt_in_het_eerste_rooster) {
@@ -623,7 +584,7 @@ TEST_F(FrmTavelo, knoppen_nemen_bij_een_klik_de_focus_niet_van_het_nummervak) {
     }
 }
 
-// The timer of the re-import, fired by hand.
+// With a file that the poll watches.
 struct FrmTaveloTik : FrmTavelo {
     std::string pad;
     void SetUp() override {
@@ -632,21 +593,7 @@ struct FrmTaveloTik : FrmTavelo {
         zet_tijd({2026, 6, 13, 9, 0, 0});
         open(pad);
     }
-    // When the file was changed, for who opens it and for the poll. A file that is gone has no time for the poll.
-    void zet_tijd(const LocalTime& tijd) {
-        opstelling.tijdstempels.stamps[pad] = tijd;
-        std::tm delen{};
-        delen.tm_year = tijd.year - 1900;
-        delen.tm_mon = tijd.month - 1;
-        delen.tm_mday = tijd.day;
-        delen.tm_hour = tijd.hour;
-        delen.tm_min = tijd.minute;
-        delen.tm_sec = tijd.second;
-        delen.tm_isdst = -1;
-        const auto punt = std::chrono::system_clock::from_time_t(std::mktime(&delen));
-        std::error_code weg;
-        std::filesystem::last_write_time(pad, std::chrono::file_clock::from_sys(punt), weg);
-    }
+    void zet_tijd(const LocalTime& tijd) { MetHoofdvenster::zet_tijd(pad, tijd); }
     void een_minuut_later() {
         LocalTime tijd = opstelling.tijdstempels.stamps[pad];
         ++tijd.minute;
@@ -656,7 +603,6 @@ struct FrmTaveloTik : FrmTavelo {
         map.write("volg.rst", roosterbestand(nummers, naam));
         een_minuut_later();
     }
-    void tik() const { QMetaObject::invokeMethod(&vind<QTimer>("Timer1"), "timeout", Qt::DirectConnection); }
     // What the screen's next frame would ask for, without waiting for it.
     void schilder() const {
         QCoreApplication::sendPostedEvents();
@@ -823,7 +769,7 @@ struct FrmTaveloTraag : FrmTavelo {
 TEST_F(FrmTaveloTraag, zolang_de_share_niet_antwoordt_gaat_het_werk_door_en_het_programma_dicht) {
     open_nummers({3, 1, 12});
     const std::string pad = programma.rooster_bestand;
-    QMetaObject::invokeMethod(&vind<QTimer>("Timer1"), "timeout", Qt::DirectConnection);
+    tik();
     ASSERT_EQ(share.looks_at, pad);
     typ("12");
     EXPECT_EQ(programma.huidige_regel, 3);

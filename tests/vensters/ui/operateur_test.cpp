@@ -1,7 +1,5 @@
 // What the operator is told by the main window, and what the public never sees of it.
-#include "fakes/file_readers.h"
-#include "fakes/opstelling.h"
-#include "fakes/temp_folder.h"
+#include "fakes/hoofdvenster.h"
 #include "platform/application.h"
 #include "platform/dialogs.h"
 #include "platform/elided_label.h"
@@ -9,14 +7,11 @@
 #include "schedule/record/kolommen.h"
 #include "ui/display/frmDeelnemer.h"
 #include "ui/main/frmStatus.h"
-#include "ui/main/frmTavelo.h"
 #include "ui/main/frmWijzigingen.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QHelpEvent>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QTableView>
@@ -26,8 +21,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <ctime>
 #include <filesystem>
 #include <vector>
 
@@ -53,39 +46,14 @@ std::string bestand_met(const std::vector<Combinatie>& combinaties) {
 
 const std::vector<Combinatie> drie = {{80, "Elise Dijkgraaf"}, {7, "Jan"}, {8, "Kees"}};
 
-struct Operateur : testing::Test {
-    test::TempFolder map;
-    test::Opstelling opstelling;
-    test::FakeSettings opslag;
-    test::FakeSpecialFolders mappen;
-    test::FakeBrowser browser;
-    test::DirectReader lezer;
-    Programma& programma = opstelling.programma;
+struct Operateur : test::MetHoofdvenster {
     std::string pad;
     int minuut = 0;
-    std::unique_ptr<frmTavelo> venster;
 
     void SetUp() override {
-        programma.instellingen = laad_instellingen(opslag);
         opstelling.klok.time = {2026, 6, 13, 14, 2, 0};
-        venster = std::make_unique<frmTavelo>(
-            opstelling.bediening,
-            TaveloOmgeving{opslag, mappen, lezer, browser, map.file("programma"), [] {}, [](frmTavelo&) {}});
-        venster->laad();
-        QCoreApplication::processEvents();
+        MetHoofdvenster::SetUp();
     }
-    void TearDown() override {
-        venster.reset();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    template <class Widget = QWidget>
-    [[nodiscard]] Widget& vind(const char* naam) const {
-        auto* gevonden = venster->findChild<Widget*>(naam);
-        if (!gevonden) throw std::runtime_error(std::string("geen ") + naam);
-        return *gevonden;
-    }
-    [[nodiscard]] QLineEdit& txtINR() const { return vind<QLineEdit>("txtINR"); }
-    [[nodiscard]] QTableView& grdRooster() const { return vind<QTableView>("grdRooster"); }
     [[nodiscard]] StatusBalk& status() const { return vind<StatusBalk>("statusregel"); }
     [[nodiscard]] QString tekst(const char* label) const {
         const auto& gevonden = vind<QLabel>(label);
@@ -95,38 +63,22 @@ struct Operateur : testing::Test {
         const auto& gevonden = vind<QLabel>(label);
         return gevonden.autoFillBackground() && gevonden.palette().color(QPalette::Window) == QColor(0xFF, 0xBF, 0x3C);
     }
-    // When the file was changed, for who opens it and for the poll.
     void zet_minuut(int nu) {
         minuut = nu;
-        opstelling.tijdstempels.stamps[pad] = {2026, 6, 13, 9, nu, 0};
-        std::tm delen{};
-        delen.tm_year = 2026 - 1900;
-        delen.tm_mon = 5;
-        delen.tm_mday = 13;
-        delen.tm_hour = 9;
-        delen.tm_min = nu;
-        delen.tm_isdst = -1;
-        const auto punt = std::chrono::system_clock::from_time_t(std::mktime(&delen));
-        std::filesystem::last_write_time(pad, std::chrono::file_clock::from_sys(punt));
+        zet_tijd(pad, {2026, 6, 13, 9, nu, 0});
     }
     void open_tekst(const std::string& inhoud, const char* naam = "proef.rst") {
         pad = map.write(naam, inhoud);
         zet_minuut(0);
-        opstelling.open_dialoog.answer = pad;
-        vind<QAction>("mnuBestand0").trigger();
+        MetHoofdvenster::open(pad);
     }
     void open(const std::vector<Combinatie>& combinaties) { open_tekst(bestand_met(combinaties)); }
     void herlees(const std::vector<Combinatie>& combinaties) {
         map.write("proef.rst", bestand_met(combinaties));
         zet_minuut(++minuut);
-        QMetaObject::invokeMethod(&vind<QTimer>("Timer1"), "timeout", Qt::DirectConnection);
+        tik();
         QCoreApplication::processEvents();
     }
-    void typ(const char* nummer) const {
-        txtINR().selectAll();
-        QTest::keyClicks(&txtINR(), nummer);
-    }
-    void wissel_monitor() const { vind<QAction>("mnuPopup").trigger(); }
     [[nodiscard]] frmDeelnemer& deelnemer() const { return vind<frmDeelnemer>("frmDeelnemer"); }
     [[nodiscard]] bool is_gemerkt(int rij) const {
         return grdRooster().model()->index(rij - 1, 0).data(RoosterModel::merk_role).toBool();

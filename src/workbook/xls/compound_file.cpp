@@ -89,6 +89,16 @@ class CompoundFile {
         return entry.size < mini_cutoff_ ? Sectors::small : Sectors::large;
     }
 
+    // The part of the file that the stream is; nothing when its sectors do not follow one another.
+    [[nodiscard]] std::optional<ByteSpan> in_one_piece(const Entry& entry, Sectors sectors) const {
+        if (sectors == Sectors::small) return std::nullopt;
+        const auto chain = chain_of(entry.first_sector, sector_table_);
+        const auto is_gap = [](std::uint32_t sector, std::uint32_t next) { return next != sector + 1; };
+        if (chain.empty() || std::ranges::adjacent_find(chain, is_gap) != chain.end()) return std::nullopt;
+        const std::size_t size = std::min<std::size_t>(chain.size() * sector_size_, entry.size);
+        return part_of(file_, place_of(chain.front()), size);
+    }
+
     [[nodiscard]] std::vector<std::byte> read(const Entry& entry, Sectors sectors) const {
         std::vector<std::byte> bytes =
             sectors == Sectors::small ? read_mini_chain(entry) : read_chain(entry.first_sector);
@@ -110,9 +120,8 @@ class CompoundFile {
     [[nodiscard]] std::size_t sector_count() const { return file_.size() / sector_size_ + 1; }
 
     // The header takes the place of the sector before sector 0.
-    [[nodiscard]] ByteSpan sector(std::uint32_t number) const {
-        return part_of(file_, (std::size_t{number} + 1) * sector_size_, sector_size_);
-    }
+    [[nodiscard]] std::size_t place_of(std::uint32_t sector) const { return (std::size_t{sector} + 1) * sector_size_; }
+    [[nodiscard]] ByteSpan sector(std::uint32_t number) const { return part_of(file_, place_of(number), sector_size_); }
 
     void read_sector_table() {
         constexpr std::size_t in_header = 109;
@@ -218,7 +227,7 @@ bool has_signature(ByteSpan file) {
 
 } // namespace
 
-std::expected<std::vector<std::byte>, CompoundFailure> workbook_stream(ByteSpan file) {
+std::expected<std::span<std::byte>, CompoundFailure> workbook_stream(std::vector<std::byte>& file) {
     if (!has_signature(file)) return std::unexpected(CompoundFailure::not_compound);
     CompoundFile compound(file);
     if (!compound.open()) return std::unexpected(CompoundFailure::damaged);
@@ -228,10 +237,14 @@ std::expected<std::vector<std::byte>, CompoundFailure> workbook_stream(ByteSpan 
         const auto other =
             usual == CompoundFile::Sectors::small ? CompoundFile::Sectors::large : CompoundFile::Sectors::small;
         for (const auto sectors : {usual, other}) {
-            std::vector<std::byte> bytes = compound.read(*entry, sectors);
-            if (!is_bof(word_at(bytes, 0))) continue;
+            const auto piece = compound.in_one_piece(*entry, sectors);
+            std::vector<std::byte> gathered = piece ? std::vector<std::byte>() : compound.read(*entry, sectors);
+            if (!is_bof(word_at(piece ? *piece : gathered, 0))) continue;
             if (compound.is_cut_off(*entry, sectors)) return std::unexpected(CompoundFailure::damaged);
-            return bytes;
+            if (piece)
+                return std::span(file).subspan(static_cast<std::size_t>(piece->data() - file.data()), piece->size());
+            file = std::move(gathered);
+            return file;
         }
     }
     if (!candidates.empty()) return std::unexpected(CompoundFailure::damaged);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <bit>
 #include <memory>
+#include <vector>
 
 namespace tavelo {
 
@@ -242,7 +243,7 @@ std::size_t plain_size(const BiffRecord& record) {
 
 } // namespace
 
-Lock unlock(std::vector<std::byte>& stream) {
+Lock unlock(std::span<std::byte> stream) {
     BiffCursor cursor(stream);
     const auto first = cursor.next();
     if (!first || !is_bof(first->type)) return Lock::none;

@@ -4,14 +4,12 @@
 
 #include "workbook/xls/biff_stream.h"
 
-#include <vector>
-
 namespace tavelo {
 
 enum class Lock : std::uint8_t { none, opened, password };
 
 // Looks for the lock among the globals, and unlocks the records in place where Excel would not ask for a password.
 // Otherwise the stream stays as it was.
-[[nodiscard]] Lock unlock(std::vector<std::byte>& stream);
+[[nodiscard]] Lock unlock(std::span<std::byte> stream);
 
 } // namespace tavelo

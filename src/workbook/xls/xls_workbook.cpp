@@ -18,7 +18,8 @@ constexpr std::string_view only_sheet_name = "Sheet1"; // of a stream that is on
 
 class XlsWorkbook final : public Workbook {
   public:
-    explicit XlsWorkbook(std::vector<std::byte> stream) : stream_(std::move(stream)) {}
+    // `stream` is a part of the file.
+    XlsWorkbook(std::vector<std::byte> file, ByteSpan stream) : file_(std::move(file)), stream_(stream) {}
 
     // Everything but the cells. To be called once, first.
     [[nodiscard]] std::expected<void, OpenFailure> read_globals();
@@ -39,7 +40,8 @@ class XlsWorkbook final : public Workbook {
     [[nodiscard]] bool is_dialog(std::size_t offset) const;
     [[nodiscard]] CellStyles styles_of_sheet(BiffCursor cursor) const;
 
-    std::vector<std::byte> stream_;
+    std::vector<std::byte> file_;
+    ByteSpan stream_;
     TextEncoding encoding_;
     std::vector<SheetInfo> sheets_;
     std::vector<std::size_t> offsets_; // of the BOF record of each sheet in the stream
@@ -133,7 +135,7 @@ void XlsWorkbook::take_sheet_name(const BiffRecord& record, BiffCursor& cursor) 
         kind = SheetKind::chart;
     else if (stored == StoredKind::macro || stored == StoredKind::modules)
         kind = SheetKind::macro;
-    add_sheet(text.string(length, encoding_), kind, offset);
+    add_sheet(std::string(text.string(length, encoding_)), kind, offset);
 }
 
 // Reads up to the end of the table: the counts in front of it are wrong in too many files.
@@ -238,16 +240,17 @@ bool begins_as_xls(std::span<const std::byte> bytes) {
 }
 
 std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xls(std::vector<std::byte> bytes) {
+    std::span<std::byte> stream = bytes;
     if (!is_bare_stream(bytes)) {
-        auto stream = workbook_stream(bytes);
-        if (!stream)
-            return std::unexpected(stream.error() == CompoundFailure::encrypted_package ? OpenFailure::password
-                                   : stream.error() == CompoundFailure::damaged         ? OpenFailure::damaged
-                                                                                        : OpenFailure::not_a_workbook);
-        bytes = std::move(*stream);
+        const auto found = workbook_stream(bytes);
+        if (!found)
+            return std::unexpected(found.error() == CompoundFailure::encrypted_package ? OpenFailure::password
+                                   : found.error() == CompoundFailure::damaged         ? OpenFailure::damaged
+                                                                                       : OpenFailure::not_a_workbook);
+        stream = *found;
     }
-    if (unlock(bytes) == Lock::password) return std::unexpected(OpenFailure::password);
-    auto workbook = std::make_unique<XlsWorkbook>(std::move(bytes));
+    if (unlock(stream) == Lock::password) return std::unexpected(OpenFailure::password);
+    auto workbook = std::make_unique<XlsWorkbook>(std::move(bytes), stream);
     if (const auto read = workbook->read_globals(); !read) return std::unexpected(read.error());
     return workbook;
 }

@@ -387,6 +387,67 @@ TEST(XlsContainer, de_verdere_delen_van_de_tabel_mogen_over_meer_sectoren_gaan) 
     EXPECT_EQ(shown(Bytes(file).cut(file.size() - 4)), (Shown{"A1=1"})); // without the number of a next one
 }
 
+// The workbook has the sectors 2 to 9. After the exchange of two of them its chain goes to and fro.
+Bytes with_sectors_exchanged(const Bytes& whole, std::uint32_t left, std::uint32_t right) {
+    const auto now_at = [&](std::uint32_t sector) { return sector == left ? right : sector == right ? left : sector; };
+    Bytes file = whole;
+    for (std::uint32_t sector = 2; sector < 10; ++sector) {
+        const std::size_t from = (sector + 1) * std::size_t{512};
+        const std::size_t to = (now_at(sector) + 1) * std::size_t{512};
+        for (std::size_t i = 0; i < 512; ++i)
+            file.put_u8(to + i, byte_at(whole.bytes(), from + i));
+        file.put_u32(Container::first_table_place + now_at(sector) * std::size_t{4},
+                     sector == 9 ? end_of_chain : now_at(sector + 1));
+    }
+    return file;
+}
+
+TEST(XlsContainer, de_sectoren_van_een_werkmap_mogen_door_elkaar_liggen) {
+    const Bytes content = with_far_value(1);
+    const Bytes whole = container_of(content);
+    std::vector<std::byte> in_order = whole.bytes();
+    const auto part = workbook_stream(in_order);
+    ASSERT_TRUE(part.has_value());
+    EXPECT_EQ(part->data(), in_order.data() + 3 * std::size_t{512}); // no copy is made of it
+    EXPECT_EQ(in_order, whole.bytes());
+    EXPECT_EQ(part->size(), 4096U);
+    const std::vector<std::byte> stream(part->begin(), part->end());
+    EXPECT_TRUE(std::ranges::equal(part->first(content.size()), content.bytes()));
+
+    for (const auto& [left, right] : {std::pair(3U, 4U), std::pair(3U, 5U), std::pair(8U, 9U), std::pair(5U, 9U)}) {
+        const Bytes file = with_sectors_exchanged(whole, left, right);
+        EXPECT_NE(file.bytes(), whole.bytes());
+        EXPECT_EQ(shown(file), (Shown{"A1=1"})) << left << ' ' << right;
+        std::vector<std::byte> bytes = file.bytes();
+        const auto gathered = workbook_stream(bytes);
+        ASSERT_TRUE(gathered.has_value());
+        EXPECT_TRUE(std::ranges::equal(*gathered, stream)) << left << ' ' << right;
+        EXPECT_EQ(gathered->data(), bytes.data());
+    }
+}
+
+TEST(XlsContainer, een_werkmap_die_niet_begint_laat_het_bestand_zoals_het_is) {
+    const Bytes whole = container_of(Bytes().zeros(100));
+    std::vector<std::byte> bytes = whole.bytes();
+    EXPECT_EQ(workbook_stream(bytes).error(), CompoundFailure::damaged);
+    EXPECT_EQ(bytes, whole.bytes());
+}
+
+TEST(XlsContainer, een_werkmap_uit_een_stuk_heeft_precies_haar_eigen_bytes) {
+    constexpr std::size_t workbook_size = 1024 + 128 + 120;
+    for (const std::size_t size : {4096U, 4000U, 3585U, 3584U}) {
+        Bytes file = container_of(with_far_value(1));
+        file.put_u32(workbook_size, static_cast<std::uint32_t>(size)).put_u32(56, 512).zeros(2048);
+        std::vector<std::byte> bytes = file.bytes();
+        const auto stream = workbook_stream(bytes);
+        ASSERT_TRUE(stream.has_value());
+        EXPECT_EQ(stream->size(), size);
+    }
+    Bytes longer = container_of(with_far_value(1)); // its chain ends before the size that the directory says
+    std::vector<std::byte> bytes = longer.put_u32(workbook_size, 9000).zeros(9000).bytes();
+    EXPECT_EQ(workbook_stream(bytes)->size(), 4096U);
+}
+
 TEST(XlsBegin, is_dat_van_een_container_of_van_een_eerste_record) {
     const Bytes whole = container_of(with_value(1));
     EXPECT_TRUE(begins_as_xls(whole.bytes()));

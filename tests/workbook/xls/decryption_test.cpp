@@ -1,5 +1,6 @@
 // Locked workbooks: those that Excel opens without asking are read, others ask for their password. The keys here were
 // computed apart from the program, with the password that Excel knows and the salt 00 01 .. 0F.
+#include "workbook/xls/decryption.h"
 #include "workbook/xls/digest.h"
 #include "xls_bytes.h"
 
@@ -232,6 +233,15 @@ TEST(XlsSlot, het_oudste_slot_gaat_vanzelf_open) {
     EXPECT_EQ(shown(locked(book_with(Bytes().u16(0).u16(0xB359).u16(0x9A0A)), by_xor)), all_cells);
     const Bytes old_lock = Bytes().record(filepass, Bytes().u16(0xB359).u16(0x9A0A));
     EXPECT_EQ(shown(locked(sheet_5(cells_of(label_5(2, 0, "Paard")), old_lock), by_xor)), all_cells);
+}
+
+TEST(XlsSlot, gaat_open_waar_de_stroom_in_het_bestand_ligt) {
+    constexpr std::size_t before = 100;
+    const Bytes plain = book_with(Bytes().u16(0).u16(0xB359).u16(0x9A0A));
+    Bytes file = Bytes().zeros(before).add(locked(plain, by_xor)).zeros(50);
+    std::vector<std::byte> bytes = file.bytes();
+    EXPECT_EQ(unlock(std::span(bytes).subspan(before, plain.size())), Lock::opened);
+    EXPECT_EQ(bytes, Bytes().zeros(before).add(plain).zeros(50).bytes());
 }
 
 TEST(XlsSlot, een_eigen_wachtwoord_wordt_gevraagd) {

@@ -155,16 +155,22 @@ std::string_view last(std::string_view text, std::size_t count) {
     return text.substr(begin);
 }
 
-void from_windows_1252(std::string_view bytes, std::string& text) {
-    text.clear();
+std::string_view view_of_windows_1252(std::string_view bytes, std::string& room) {
+    room.clear();
     std::size_t begin = 0; // of what is not taken over yet
     for_each_place(bytes, HighByte(), [&](std::size_t at) {
         const auto byte = static_cast<unsigned char>(bytes[at]);
-        text.append(bytes.substr(begin, at - begin));
-        append_utf8(text, byte < 0xA0 ? windows_1252_upper_controls[byte - 0x80U] : byte);
+        room.append(bytes.substr(begin, at - begin));
+        append_utf8(room, byte < 0xA0 ? windows_1252_upper_controls[byte - 0x80U] : byte);
         begin = at + 1;
     });
-    text.append(bytes.substr(begin));
+    if (begin == 0) return bytes;
+    return room.append(bytes.substr(begin));
+}
+
+void from_windows_1252(std::string_view bytes, std::string& text) {
+    const std::string_view shown = view_of_windows_1252(bytes, text);
+    if (shown.data() == bytes.data()) text.assign(bytes);
 }
 
 std::string from_windows_1252(std::string_view bytes) {

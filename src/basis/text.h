@@ -49,6 +49,8 @@ class Parts {
 [[nodiscard]] std::string from_windows_1252(std::string_view bytes);
 // The same into a text whose room is used again, for many texts in a row.
 void from_windows_1252(std::string_view bytes, std::string& text);
+// The same as a view: on `bytes` when they are ASCII, which stays as it is, else on `room`.
+[[nodiscard]] std::string_view view_of_windows_1252(std::string_view bytes, std::string& room);
 
 // The code points of a UTF-8 text; a byte that is not UTF-8 gives U+FFFD.
 [[nodiscard]] std::u32string code_points(std::string_view text);

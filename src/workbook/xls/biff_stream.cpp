@@ -17,6 +17,13 @@ constexpr std::size_t formatting_run_size = 4;
 
 } // namespace
 
+std::uint64_t number_of_last(ByteSpan bytes, std::size_t place) {
+    std::uint64_t number = 0;
+    for (std::size_t at = bytes.size(); at-- > place;)
+        number = number << 8U | std::to_integer<std::uint8_t>(bytes[at]);
+    return number;
+}
+
 Biff version_of_bof(const BiffRecord& bof) {
     constexpr unsigned biff8_number = 0x0600;
     switch (bof.type) {
@@ -41,34 +48,13 @@ std::optional<BiffRecord> BiffCursor::next_if(std::uint16_t type) {
     return std::nullopt;
 }
 
-bool BiffText::next_part() {
+bool BiffText::next_record() {
     while (data_.empty()) {
         const auto more = cursor_.next_if(biff::continued);
         if (!more) return false;
         data_ = more->data;
     }
     return true;
-}
-
-bool BiffText::at_end() { return !next_part(); }
-
-std::uint8_t BiffText::byte() {
-    if (!next_part()) return 0;
-    const std::uint8_t value = byte_at(data_, 0);
-    data_ = data_.subspan(1);
-    return value;
-}
-
-std::uint16_t BiffText::word() {
-    const unsigned low = byte();
-    const unsigned high = byte();
-    return static_cast<std::uint16_t>(high << 8 | low);
-}
-
-std::uint32_t BiffText::long_word() {
-    const std::uint32_t low = word();
-    const std::uint32_t high = word();
-    return high << 16 | low;
 }
 
 void BiffText::skip(std::size_t count) {
@@ -79,30 +65,31 @@ void BiffText::skip(std::size_t count) {
     }
 }
 
-std::string BiffText::string(std::size_t length, TextEncoding encoding) {
+std::string_view BiffText::string(std::size_t length, TextEncoding encoding) {
     return encoding.version == Biff::biff8 ? unicode_string(length) : byte_string(length, encoding.code_page);
 }
 
-std::string BiffText::unicode_string(std::size_t length) {
+std::string_view BiffText::unicode_string(std::size_t length) {
     const unsigned flags = byte();
     const std::size_t runs = (flags & rich_flag) != 0 ? word() : 0;
     const std::size_t phonetic = (flags & phonetic_flag) != 0 ? long_word() : 0;
 
     const bool is_narrow = (flags & wide_flag) == 0;
-    std::string text = is_narrow && length <= data_.size() ? narrow_string(length) : characters(length, flags);
+    const std::string_view text =
+        is_narrow && length <= data_.size() ? narrow_string(length) : characters(length, flags);
     skip(runs * formatting_run_size);
     skip(phonetic);
     return text;
 }
 
 // What nearly every string is: in one record, of one byte for each character.
-std::string BiffText::narrow_string(std::size_t length) {
-    const ByteSpan bytes = data_.first(length);
+std::string_view BiffText::narrow_string(std::size_t length) {
+    const std::string_view bytes(reinterpret_cast<const char*>(data_.data()), length);
     data_ = data_.subspan(length);
-    return from_windows_1252({reinterpret_cast<const char*>(bytes.data()), length}); // see character_of_byte
+    return view_of_windows_1252(bytes, made_); // see character_of_byte
 }
 
-std::string BiffText::characters(std::size_t length, unsigned flags) {
+std::string_view BiffText::characters(std::size_t length, unsigned flags) {
     std::u16string text;
     while (length > 0) {
         if (data_.empty()) {
@@ -117,10 +104,10 @@ std::string BiffText::characters(std::size_t length, unsigned flags) {
         data_ = part_of(data_, here * unit_size);
         length -= here;
     }
-    return utf8_of(text);
+    return made_ = utf8_of(text);
 }
 
-std::string BiffText::byte_string(std::size_t length, unsigned code_page) {
+std::string_view BiffText::byte_string(std::size_t length, unsigned code_page) {
     std::string text;
     while (length > 0 && next_part()) {
         const ByteSpan here = part_of(data_, 0, length);
@@ -129,7 +116,7 @@ std::string BiffText::byte_string(std::size_t length, unsigned code_page) {
         data_ = data_.subspan(here.size());
         length -= here.size();
     }
-    return utf8_of(text, code_page);
+    return made_ = utf8_of(text, code_page);
 }
 
 } // namespace tavelo

@@ -9,6 +9,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace tavelo {
 
@@ -20,16 +21,17 @@ using ByteSpan = std::span<const std::byte>;
     return rest.first(std::min(count, rest.size()));
 }
 
+// The number of the bytes from `place` to the end, eight at most.
+[[nodiscard]] std::uint64_t number_of_last(ByteSpan bytes, std::size_t place);
+
 // The number at a place in the bytes; what lies beyond the end counts as zero.
 template <class Unsigned>
 [[nodiscard]] Unsigned number_at(ByteSpan bytes, std::size_t place) {
     static_assert(std::endian::native == std::endian::little);
+    if (place >= bytes.size() || bytes.size() - place < sizeof(Unsigned))
+        return static_cast<Unsigned>(number_of_last(bytes, place));
     Unsigned number = 0;
-    if (place < bytes.size() && bytes.size() - place >= sizeof number)
-        std::memcpy(&number, bytes.data() + place, sizeof number);
-    else
-        for (std::size_t at = bytes.size(); at-- > place;)
-            number = static_cast<Unsigned>(std::uint64_t{number} << 8U | std::to_integer<std::uint8_t>(bytes[at]));
+    std::memcpy(&number, bytes.data() + place, sizeof number);
     return number;
 }
 [[nodiscard]] inline std::uint8_t byte_at(ByteSpan bytes, std::size_t place) {
@@ -98,16 +100,20 @@ class BiffCursor {
     explicit BiffCursor(ByteSpan stream, std::size_t place = 0) : stream_(stream), place_(place) {}
     [[nodiscard]] std::optional<BiffRecord> next() {
         constexpr std::size_t header_size = 4;
-        if (place_ > stream_.size() || stream_.size() - place_ < header_size) return std::nullopt;
-        const BiffRecord record{.type = word_at(stream_, place_),
-                                .data = part_of(stream_, place_ + header_size, word_at(stream_, place_ + 2))};
-        place_ += header_size + record.data.size();
+        if (bytes_left() < header_size) return std::nullopt;
+        const std::uint32_t header = long_at(stream_, place_);
+        place_ += header_size;
+        const BiffRecord record{.type = static_cast<std::uint16_t>(header),
+                                .data = stream_.subspan(place_, std::min<std::size_t>(header >> 16, bytes_left()))};
+        place_ += record.data.size();
         return record;
     }
     // The next record when it has this type; otherwise nothing, and the cursor stays.
     [[nodiscard]] std::optional<BiffRecord> next_if(std::uint16_t type);
     // Where the next record begins.
     [[nodiscard]] std::size_t place() const { return place_; }
+    // Up to the end of the stream.
+    [[nodiscard]] std::size_t bytes_left() const { return stream_.size() - std::min(place_, stream_.size()); }
 
   private:
     ByteSpan stream_;
@@ -120,25 +126,44 @@ class BiffText {
     // `cursor` stands behind the record; it moves over each CONTINUE record that is read.
     BiffText(BiffCursor& cursor, ByteSpan data) : cursor_(cursor), data_(data) {}
 
-    [[nodiscard]] bool at_end();
-    [[nodiscard]] std::uint8_t byte();
-    [[nodiscard]] std::uint16_t word();
-    [[nodiscard]] std::uint32_t long_word();
+    [[nodiscard]] bool at_end() { return !next_part(); }
+    [[nodiscard]] std::uint8_t byte() { return number<std::uint8_t>(); }
+    [[nodiscard]] std::uint16_t word() { return number<std::uint16_t>(); }
+    [[nodiscard]] std::uint32_t long_word() { return number<std::uint32_t>(); }
     void skip(std::size_t count);
 
-    // A string behind its length. Formatting runs and the phonetic block of BIFF8 are skipped; a string that is cut off
-    // gives the characters that are there.
-    [[nodiscard]] std::string string(std::size_t length, TextEncoding encoding);
+    // A string behind its length, in UTF-8. Formatting runs and the phonetic block of BIFF8 are skipped; a string that
+    // is cut off gives the characters that are there. The view holds until the next string.
+    [[nodiscard]] std::string_view string(std::size_t length, TextEncoding encoding);
 
   private:
-    [[nodiscard]] bool next_part();
-    [[nodiscard]] std::string unicode_string(std::size_t length);
-    [[nodiscard]] std::string narrow_string(std::size_t length);
-    [[nodiscard]] std::string characters(std::size_t length, unsigned flags);
-    [[nodiscard]] std::string byte_string(std::size_t length, unsigned code_page);
+    [[nodiscard]] bool next_part() { return !data_.empty() || next_record(); }
+    [[nodiscard]] bool next_record();
+    template <class Unsigned>
+    [[nodiscard]] Unsigned number();
+    [[nodiscard]] std::string_view unicode_string(std::size_t length);
+    [[nodiscard]] std::string_view narrow_string(std::size_t length);
+    [[nodiscard]] std::string_view characters(std::size_t length, unsigned flags);
+    [[nodiscard]] std::string_view byte_string(std::size_t length, unsigned code_page);
 
     BiffCursor& cursor_;
-    ByteSpan data_; // what is left of the current record
+    ByteSpan data_;    // what is left of the current record
+    std::string made_; // the string, where it does not stand in the record as it is
 };
+
+template <class Unsigned>
+Unsigned BiffText::number() {
+    Unsigned value = 0;
+    if (data_.size() >= sizeof value) {
+        value = number_at<Unsigned>(data_, 0);
+        data_ = data_.subspan(sizeof value);
+        return value;
+    }
+    for (std::size_t i = 0; i < sizeof value && next_part(); ++i) {
+        value = static_cast<Unsigned>(value | static_cast<std::uint32_t>(byte_at(data_, 0)) << 8 * i);
+        data_ = data_.subspan(1);
+    }
+    return value;
+}
 
 } // namespace tavelo

@@ -21,7 +21,7 @@ std::string text_of(std::size_t length, TextEncoding encoding, const Bytes& data
     stream.record(0x1234, Bytes().u8('!'));
     BiffCursor cursor(stream.bytes());
     BiffText text(cursor, data.bytes());
-    const std::string read = text.string(length, encoding);
+    const std::string read(text.string(length, encoding));
     return read + (text.at_end() ? "" : "+" + std::to_string(text.byte()));
 }
 
@@ -106,6 +106,25 @@ TEST(BiffTekst, heeft_een_of_twee_bytes_per_teken) {
                                      "c")),
               "aéc");
     EXPECT_EQ(text_of(2, western, Bytes().narrow("abc")), "ab+99");
+}
+
+TEST(BiffTekst, heeft_letters_buiten_ascii_waar_ze_ook_staan) {
+    for (std::size_t length = 1; length <= 70; ++length)
+        for (std::size_t at = 0; at < length; ++at) {
+            std::string stored(length, 'a');
+            stored[at] = '\xE9';
+            const std::string shown = std::string(at, 'a') + "é" + std::string(length - 1 - at, 'a');
+            ASSERT_EQ(text_of(length, unicode, Bytes().u8(0).narrow(stored)), shown) << length << ' ' << at;
+        }
+}
+
+TEST(BiffTekst, staat_er_tot_de_volgende_tekst) {
+    const std::vector<std::byte> data = Bytes().u8(0).narrow("caf\xE9").u8(0).narrow("ab").bytes();
+    BiffCursor cursor({});
+    BiffText text(cursor, data);
+    EXPECT_EQ(text.string(4, unicode), "café");
+    EXPECT_EQ(text.string(2, unicode), "ab");
+    EXPECT_EQ(text.string(2, unicode), "");
 }
 
 TEST(BiffTekst, slaat_opmaak_en_uitspraak_over) {

@@ -43,11 +43,10 @@ std::string_view DisplayedTexts::whole_text_of(const Cell& cell, std::string& ro
     case CellKind::blank:
         return {};
     case CellKind::number:
-        room = format_of(cell).show_number(
-            cell.number, workbook_.dates_from_1904() ? DateSystem::from_1904 : DateSystem::from_1900, locale_);
+        format_of(cell).show_number(cell.number, dates_, locale_, room);
         return room;
     case CellKind::text:
-        return text_under(format_of(cell), workbook_.texts()[cell.text], room);
+        return text_under(format_of(cell), texts_[cell.text], room);
     case CellKind::boolean:
         return text_under(format_of(cell), cell.number != 0 ? locale_.true_word : locale_.false_word, room);
     case CellKind::error:
@@ -56,8 +55,7 @@ std::string_view DisplayedTexts::whole_text_of(const Cell& cell, std::string& ro
     return {};
 }
 
-const NumberFormat& DisplayedTexts::format_of(const Cell& cell) {
-    if (cell.format < formats_.size() && formats_[cell.format]) return *formats_[cell.format];
+const NumberFormat& DisplayedTexts::parsed_format_of(const Cell& cell) {
     const auto codes = workbook_.formats();
     if (cell.format >= codes.size()) return general_;
     if (formats_.size() <= cell.format) formats_.resize(codes.size());

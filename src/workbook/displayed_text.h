@@ -23,7 +23,11 @@ inline constexpr std::size_t longest_format_code = 3 * std::size_t{255};
 // The texts of one sheet. A format is parsed when the first cell needs it. Workbook and locale outlive this.
 class DisplayedTexts {
   public:
-    DisplayedTexts(const Workbook& workbook, const Locale& locale) : workbook_(workbook), locale_(locale) {}
+    DisplayedTexts(const Workbook& workbook, const Locale& locale)
+        : workbook_(workbook),
+          locale_(locale),
+          texts_(workbook.texts()),
+          dates_(workbook.dates_from_1904() ? DateSystem::from_1904 : DateSystem::from_1900) {}
 
     // Texts and the words of booleans go through the text section of the format, errors never. A blank cell shows
     // nothing. At most longest_text characters; and from the call on that would bring the sum of the texts given so far
@@ -34,10 +38,15 @@ class DisplayedTexts {
 
   private:
     [[nodiscard]] std::string_view whole_text_of(const Cell& cell, std::string& room);
-    [[nodiscard]] const NumberFormat& format_of(const Cell& cell);
+    [[nodiscard]] const NumberFormat& format_of(const Cell& cell) {
+        return cell.format < formats_.size() && formats_[cell.format] ? *formats_[cell.format] : parsed_format_of(cell);
+    }
+    [[nodiscard]] const NumberFormat& parsed_format_of(const Cell& cell);
 
     const Workbook& workbook_;
     const Locale& locale_;
+    const TextTable& texts_;
+    const DateSystem dates_;
     std::vector<std::optional<NumberFormat>> formats_;
     NumberFormat general_{""};
     std::string made_;

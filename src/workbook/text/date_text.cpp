@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <chrono>
 #include <cmath>
 
@@ -61,9 +62,11 @@ std::int64_t power_of_ten(std::uint32_t exponent) {
 }
 
 void add_number(std::string& out, std::int64_t number, std::size_t least_digits) {
-    const std::string digits = std::to_string(number);
-    if (digits.size() < least_digits) out.append(least_digits - digits.size(), '0');
-    out += digits;
+    std::array<char, 20> digits{};
+    const auto* const end = std::to_chars(digits.begin(), digits.end(), number).ptr;
+    const auto size = static_cast<std::size_t>(end - digits.begin());
+    if (size < least_digits) out.append(least_digits - size, '0');
+    out.append(digits.begin(), size);
 }
 
 std::string_view first_character(std::string_view text) {
@@ -80,12 +83,11 @@ class DateWriter {
           locale_(locale),
           names_(section.language.empty() ? locale : locale_named(section.language)) {}
 
-    [[nodiscard]] std::optional<std::string> text(double serial, DateSystem dates) {
-        if (!set_moment(serial, dates)) return std::nullopt;
-        std::string out;
+    [[nodiscard]] bool add_to(std::string& out, double serial, DateSystem dates) {
+        if (!set_moment(serial, dates)) return false;
         for (const FormatPiece& piece : section_.pieces)
             add_piece(out, piece);
-        return out;
+        return true;
     }
 
   private:
@@ -241,12 +243,10 @@ std::string system_code(SystemFormat format, const Locale& locale) {
 
 } // namespace
 
-std::optional<std::string> date_text(const FormatSection& section, double serial, DateSystem dates,
-                                     const Locale& locale) {
-    if (section.system == SystemFormat::none) return DateWriter(section, locale).text(serial, dates);
+bool add_date(std::string& out, const FormatSection& section, double serial, DateSystem dates, const Locale& locale) {
+    if (section.system == SystemFormat::none) return DateWriter(section, locale).add_to(out, serial, dates);
     const FormatCode code = parse_format_code(system_code(section.system, locale));
-    if (code.numbers.empty()) return std::nullopt;
-    return DateWriter(code.numbers.front(), locale).text(serial, dates);
+    return !code.numbers.empty() && DateWriter(code.numbers.front(), locale).add_to(out, serial, dates);
 }
 
 } // namespace tavelo

@@ -6,13 +6,13 @@
 #include "workbook/text/locale.h"
 #include "workbook/text/number_format.h"
 
-#include <optional>
 #include <string>
 
 namespace tavelo {
 
-// `serial` is finite and not negative: days since the start of the date system. nullopt beyond the year 9999.
-[[nodiscard]] std::optional<std::string> date_text(const FormatSection& section, double serial, DateSystem dates,
-                                                   const Locale& locale);
+// Appends to `out`. `serial` is finite and not negative: days since the start of the date system. False beyond the year
+// 9999, and then nothing is appended.
+[[nodiscard]] bool add_date(std::string& out, const FormatSection& section, double serial, DateSystem dates,
+                            const Locale& locale);
 
 } // namespace tavelo

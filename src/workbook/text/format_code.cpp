@@ -411,9 +411,8 @@ bool Condition::only_negative() const {
 }
 
 FormatCode parse_format_code(std::string_view code) {
-    constexpr std::string_view general = "General";
-    auto parsed = parse(code.empty() ? general : code);
-    return parsed ? *std::move(parsed) : parse(general).value();
+    if (code.empty() || code == "General") return {};
+    return parse(code).value_or(FormatCode{});
 }
 
 } // namespace tavelo

@@ -125,7 +125,7 @@ struct FormatSection {
 };
 
 struct FormatCode {
-    std::vector<FormatSection> numbers; // one to three; empty when the code is for texts alone
+    std::vector<FormatSection> numbers; // one to three; empty for General, and when the code is for texts alone
     std::optional<FormatSection> text;
 };
 

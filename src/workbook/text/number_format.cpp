@@ -84,6 +84,29 @@ Choice choose(const std::vector<FormatSection>& sections, double value) {
     return sections.size() == 1 ? choose_from_one(sections.front(), value) : choose_from_more(sections, value);
 }
 
+// False for a finite value that its format can't show.
+bool add_shown(std::string& out, const std::vector<FormatSection>& sections, double value, DateSystem dates,
+               const Locale& locale) {
+    const auto [section, minus, showable] = choose(sections, value);
+    if (!showable) return false;
+    const bool negative = value < 0;
+    const double size = std::fabs(value);
+    bool rounded_away = false;
+    if (section == nullptr) {
+        add_general(out, size, locale);
+    } else if (section->kind == SectionKind::date) {
+        // The calendar of 1900 knows no negative dates, that of 1904 shows them with a minus.
+        if (negative && dates == DateSystem::from_1900 && !section->only_elapsed) return false;
+        if (!add_date(out, *section, size, dates, locale)) return false;
+    } else {
+        rounded_away = !add_number(out, *section, size, locale);
+    }
+    if (section != nullptr && section->numerals != Numerals::western)
+        out = with_numerals(out, section->numerals, numeral_style(*section));
+    if (negative && minus == Minus::shown && !rounded_away) out.insert(0, 1, '-');
+    return true;
+}
+
 } // namespace
 
 struct NumberFormat::Parsed {
@@ -91,40 +114,27 @@ struct NumberFormat::Parsed {
 };
 
 NumberFormat::NumberFormat(std::string_view code)
-    : parsed_(std::make_unique<const Parsed>(Parsed{parse_format_code(code)})) {}
+    : parsed_(std::make_unique<const Parsed>(Parsed{parse_format_code(code)})),
+      changes_texts_(parsed_->code.text.has_value()) {}
 NumberFormat::NumberFormat(NumberFormat&&) noexcept = default;
 NumberFormat& NumberFormat::operator=(NumberFormat&&) noexcept = default;
 NumberFormat::~NumberFormat() = default;
 
 std::string NumberFormat::show_number(double value, DateSystem dates, const Locale& locale) const {
-    // Excel writes no such number; of a quiet NaN it would show the bits as 2.69653970229347E+308, which helps nobody.
-    if (!std::isfinite(value)) {
-        constexpr std::size_t number_error = 5;
-        return locale.errors[number_error];
-    }
-    const auto [section, minus, showable] = choose(parsed_->code.numbers, value);
-    if (!showable) return std::string(not_showable);
-    const bool negative = value < 0;
-    const double size = std::fabs(value);
-    SizeText shown;
-    if (section == nullptr) {
-        shown.text = general_text(size, locale);
-    } else if (section->kind == SectionKind::date) {
-        // The calendar of 1900 knows no negative dates, that of 1904 shows them with a minus.
-        if (negative && dates == DateSystem::from_1900 && !section->only_elapsed) return std::string(not_showable);
-        auto text = date_text(*section, size, dates, locale);
-        if (!text) return std::string(not_showable);
-        shown.text = std::move(*text);
-    } else {
-        shown = number_text(*section, size, locale);
-    }
-    if (section != nullptr && section->numerals != Numerals::western)
-        shown.text = with_numerals(shown.text, section->numerals, numeral_style(*section));
-    if (negative && minus == Minus::shown && !shown.shows_zero) shown.text.insert(0, 1, '-');
-    return shown.text;
+    std::string text;
+    show_number(value, dates, locale, text);
+    return text;
 }
 
-bool NumberFormat::changes_texts() const { return parsed_->code.text.has_value(); }
+void NumberFormat::show_number(double value, DateSystem dates, const Locale& locale, std::string& text) const {
+    text.clear();
+    // Excel writes no such number; of a quiet NaN it would show the bits as 2.69653970229347E+308, which helps nobody.
+    constexpr std::size_t number_error = 5;
+    if (!std::isfinite(value))
+        text = locale.errors[number_error];
+    else if (!add_shown(text, parsed_->code.numbers, value, dates, locale))
+        text = not_showable;
+}
 
 std::string NumberFormat::show_text(std::string_view text) const {
     if (!changes_texts()) return std::string(text);

@@ -22,15 +22,18 @@ class NumberFormat {
     ~NumberFormat();
 
     [[nodiscard]] std::string show_number(double value, DateSystem dates, const Locale& locale) const;
+    // The same into a text whose room is used again, for many numbers in a row.
+    void show_number(double value, DateSystem dates, const Locale& locale, std::string& text) const;
     // Texts and booleans go through the text section; without one the text is shown as it is.
     // What comes after longest_text characters may be left out.
     [[nodiscard]] std::string show_text(std::string_view text) const;
     // False when every text is shown as it is.
-    [[nodiscard]] bool changes_texts() const;
+    [[nodiscard]] bool changes_texts() const { return changes_texts_; }
 
   private:
     struct Parsed;
     std::unique_ptr<const Parsed> parsed_;
+    bool changes_texts_;
 };
 
 // The code of a built-in format id; General for an id that has none. The ids that follow the system's dates and times

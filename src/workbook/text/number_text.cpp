@@ -98,7 +98,7 @@ void add_decimals(std::string& out, const Decimal& number, const Locale& locale)
         out += number.decimal_digit(n);
 }
 
-std::string general_with_exponent(Decimal mantissa, const Locale& locale) {
+void add_general_with_exponent(std::string& out, Decimal mantissa, const Locale& locale) {
     constexpr std::int64_t three_digits_from = 100;
     std::int64_t exponent = mantissa.exponent();
     mantissa.scale(-exponent);
@@ -107,10 +107,13 @@ std::string general_with_exponent(Decimal mantissa, const Locale& locale) {
         mantissa.scale(-1);
         ++exponent;
     }
-    std::string out = mantissa.integer_digits();
+    out += mantissa.integer_digits();
     add_decimals(out, mantissa, locale);
     add_exponent(out, exponent, 2);
-    return out;
+}
+
+double scaled(double size, const FormatSection& section) {
+    return section.scale == 0 ? size : size * std::pow(10.0, static_cast<double>(section.scale));
 }
 
 // The pieces that look the same in every kind of number.
@@ -119,18 +122,17 @@ void add_plain_piece(std::string& out, const FormatSection& section, const Forma
     if (piece.kind == PieceKind::literal) out += section.literal(piece);
     if (piece.kind == PieceKind::decimal_point) out += locale.decimal_separator;
     if (piece.kind == PieceKind::general || piece.kind == PieceKind::text)
-        out += general_text(size * std::pow(10.0, static_cast<double>(section.scale)), locale);
+        add_general(out, scaled(size, section), locale);
 }
 
-SizeText decimal_text(const FormatSection& section, double size, const Locale& locale) {
+// False when the size was rounded away.
+bool add_decimal(std::string& out, const FormatSection& section, double size, const Locale& locale) {
     Decimal number(size);
     number.scale(section.scale);
     number.round(static_cast<std::int64_t>(section.decimal_places));
     PlaceFiller integer(number.integer_digits(), section.integer_places,
                         section.grouped ? std::string_view(locale.thousands_separator) : std::string_view());
     DecimalsFiller decimals(number);
-    SizeText shown{{}, number.is_zero()};
-    std::string& out = shown.text;
     for (const FormatPiece& piece : section.pieces) {
         switch (piece.kind) {
         case PieceKind::integer_digit:
@@ -147,7 +149,7 @@ SizeText decimal_text(const FormatSection& section, double size, const Locale& l
             add_plain_piece(out, section, piece, size, locale);
         }
     }
-    return shown;
+    return !number.is_zero();
 }
 
 // With more than one digit before the point the exponent is a multiple of their number.
@@ -157,7 +159,7 @@ std::int64_t shown_exponent(std::int64_t exponent, std::int64_t places) {
     return exponent - (remainder < 0 ? remainder + places : remainder);
 }
 
-std::string scientific_text(const FormatSection& section, double size, const Locale& locale) {
+void add_scientific(std::string& out, const FormatSection& section, double size, const Locale& locale) {
     const auto places = static_cast<std::int64_t>(section.integer_places);
     Decimal mantissa(size);
     mantissa.scale(section.scale);
@@ -174,7 +176,6 @@ std::string scientific_text(const FormatSection& section, double size, const Loc
     PlaceFiller integer(std::move(integer_digits), section.integer_places);
     PlaceFiller exponent_digits(std::to_string(std::abs(exponent)), section.exponent_places);
     DecimalsFiller decimals(mantissa);
-    std::string out;
     char sign = 0; // still to be shown
     for (const FormatPiece& piece : section.pieces) {
         switch (piece.kind) {
@@ -204,7 +205,6 @@ std::string scientific_text(const FormatSection& section, double size, const Loc
             add_plain_piece(out, section, piece, size, locale);
         }
     }
-    return out;
 }
 
 struct Ratio {
@@ -245,17 +245,16 @@ class FractionWriter {
   public:
     FractionWriter(const FormatSection& section, double size, const Locale& locale)
         : section_(section), size_(size), locale_(locale), mixed_(section.integer_places > 0) {
-        split(size * std::pow(10.0, static_cast<double>(section.scale)));
+        split(scaled(size, section));
         blank_ = is_blank();
     }
 
-    [[nodiscard]] std::string text() const {
+    void add_to(std::string& out) const {
         const std::string_view separator = section_.grouped ? std::string_view(locale_.thousands_separator) : "";
         PlaceFiller integer(whole_ == 0 && !blank_ ? "" : digits_or_zero(whole_), section_.integer_places, separator);
         PlaceFiller numerator(digits_or_zero(ratio_.numerator), section_.numerator_places);
         const std::string denominator = denominator_digits();
         const auto [blank_begin, blank_end] = blank_room();
-        std::string out;
         std::size_t denominators_out = 0;
         for (std::size_t at = 0; at < section_.pieces.size(); ++at) {
             const FormatPiece& piece = section_.pieces[at];
@@ -288,7 +287,6 @@ class FractionWriter {
                 add_plain_piece(out, section_, piece, size_, locale_);
             }
         }
-        return out;
     }
 
   private:
@@ -367,43 +365,42 @@ class FractionWriter {
 
 } // namespace
 
-std::string general_text(double size, const Locale& locale) {
+void add_general(std::string& out, double size, const Locale& locale) {
     constexpr double exponent_from = 1e11;
-    if (size < exponent_from && size == std::floor(size)) {
+    if (size < exponent_from && size == static_cast<double>(static_cast<std::int64_t>(size))) {
         std::array<char, 16> digits{};
-        const auto end = std::to_chars(digits.begin(), digits.end(), static_cast<std::int64_t>(size)).ptr;
-        return {digits.begin(), end};
+        out.append(digits.begin(), std::to_chars(digits.begin(), digits.end(), static_cast<std::int64_t>(size)).ptr);
+        return;
     }
     constexpr std::int64_t most_characters = 11;
     constexpr std::int64_t most_decimals = 9;
     constexpr std::int64_t smallest_exponent = -4;
     const Decimal exact(size);
     const bool too_small = exact.exponent() < smallest_exponent && exact.decimals() > most_decimals;
-    if (too_small || exact.exponent() >= most_characters) return general_with_exponent(exact, locale);
+    if (too_small || exact.exponent() >= most_characters) return add_general_with_exponent(out, exact, locale);
     Decimal shown = exact;
     const std::int64_t before_point = std::max<std::int64_t>(exact.exponent(), 0) + 1;
     shown.round(std::clamp<std::int64_t>(most_characters - 1 - before_point, 0, most_decimals));
-    if (shown.exponent() >= most_characters) return general_with_exponent(exact, locale);
-    std::string out = shown.integer_digits();
-    if (out.empty()) out = "0";
+    if (shown.exponent() >= most_characters) return add_general_with_exponent(out, exact, locale);
+    const std::string integer = shown.integer_digits();
+    out += integer.empty() ? "0" : integer;
     add_decimals(out, shown, locale);
-    return out;
 }
 
-SizeText number_text(const FormatSection& section, double size, const Locale& locale) {
+bool add_number(std::string& out, const FormatSection& section, double size, const Locale& locale) {
     switch (section.kind) {
     case SectionKind::scientific:
-        return {scientific_text(section, size, locale), false};
+        add_scientific(out, section, size, locale);
+        return true;
     case SectionKind::fraction:
-        return {FractionWriter(section, size, locale).text(), false};
+        FractionWriter(section, size, locale).add_to(out);
+        return true;
     case SectionKind::number:
-        return decimal_text(section, size, locale);
-    default: {
-        SizeText shown;
+        return add_decimal(out, section, size, locale);
+    default:
         for (const FormatPiece& piece : section.pieces)
-            add_plain_piece(shown.text, section, piece, size, locale);
-        return shown;
-    }
+            add_plain_piece(out, section, piece, size, locale);
+        return true;
     }
 }
 

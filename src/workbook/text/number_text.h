@@ -8,13 +8,9 @@
 
 namespace tavelo {
 
-struct SizeText {
-    std::string text;
-    bool shows_zero = false; // the size was rounded away, so a minus would be out of place
-};
-
-// `size` is finite and not negative.
-[[nodiscard]] std::string general_text(double size, const Locale& locale);
-[[nodiscard]] SizeText number_text(const FormatSection& section, double size, const Locale& locale);
+// Both append to `out`. `size` is finite and not negative.
+void add_general(std::string& out, double size, const Locale& locale);
+// False when the size was rounded away, so that a minus would be out of place.
+[[nodiscard]] bool add_number(std::string& out, const FormatSection& section, double size, const Locale& locale);
 
 } // namespace tavelo

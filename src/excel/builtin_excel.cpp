@@ -2,7 +2,9 @@
 
 #include "basis/number.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <map>
 #include <span>
 #include <utility>
@@ -33,27 +35,23 @@ class ReadSheet {
         const auto& widths = sheet_.column_widths;
         return column < widths.size() ? widths[column] : sheet_.default_column_width;
     }
-    // Null for a place without a cell. Quickest for a cell behind the one before: that is how a sheet is copied.
-    [[nodiscard]] const Cell* find(std::uint32_t row, std::uint32_t column) {
-        const auto is_here = [&](std::size_t index) {
-            return index < sheet_.cells.size() && sheet_.cells[index].row == row &&
-                   sheet_.cells[index].column == column;
-        };
-        if (is_here(found_)) return &sheet_.cells[found_];
-        if (is_here(found_ + 1)) return &sheet_.cells[++found_];
-        const Cell* const cell = cell_at(sheet_, row, column);
-        if (cell != nullptr) found_ = static_cast<std::size_t>(cell - sheet_.cells.data());
-        return cell;
+    // Null for a place without a cell.
+    [[nodiscard]] const Cell* find(std::uint32_t row, std::uint32_t column) const {
+        return cell_at(sheet_, row, column);
     }
 
     [[nodiscard]] std::string_view text_of(const Cell& cell) { return texts_.of(cell); }
-    // "" for a place without a cell. The views hold until the next row is asked for.
+    // "" for a place without a cell. The views hold until the next row is asked for. Quickest for the row behind the
+    // one before: that is how a sheet is copied.
     void texts_of_row(std::uint32_t row, std::span<std::string_view> texts) {
         if (made_.size() < texts.size()) made_.resize(texts.size());
-        for (std::uint32_t column = 0; column < texts.size(); ++column) {
-            const Cell* const cell = find(row, column);
-            texts[column] = cell == nullptr ? std::string_view() : texts_.of(*cell, made_[column]);
-        }
+        std::ranges::fill(texts, std::string_view());
+        const std::span<const Cell> cells = sheet_.cells;
+        auto cell =
+            is_first_from(next_, row) ? cells.begin() + next_ : std::ranges::lower_bound(cells, row, {}, &Cell::row);
+        for (; cell != cells.end() && cell->row == row; ++cell)
+            if (cell->column < texts.size()) texts[cell->column] = texts_.of(*cell, made_[cell->column]);
+        next_ = cell - cells.begin();
     }
     [[nodiscard]] std::string stored_text_of(const Cell& cell) const {
         if (cell.kind == CellKind::text) return std::string(source_->workbook->texts()[cell.text]);
@@ -61,11 +59,18 @@ class ReadSheet {
     }
 
   private:
+    // Whether the cell at this place in the sheet is the first that stands in this row or below.
+    [[nodiscard]] bool is_first_from(std::ptrdiff_t place, std::uint32_t row) const {
+        const auto cell = sheet_.cells.begin() + place;
+        return (cell == sheet_.cells.begin() || std::prev(cell)->row < row) &&
+               (cell == sheet_.cells.end() || cell->row >= row);
+    }
+
     std::shared_ptr<const Source> source_;
     Sheet sheet_;
     UsedRange box_;
     DisplayedTexts texts_;
-    std::size_t found_ = 0;         // the cell found last
+    std::ptrdiff_t next_ = 0;       // of the cell behind the row that was asked for
     std::vector<std::string> made_; // texts of the row that is asked for
 };
 

@@ -25,8 +25,8 @@ double rk_value(std::uint32_t rk) {
 class Interval {
   public:
     void include(std::uint32_t first, std::uint32_t last) {
-        first_ = std::min(first_, first);
-        end_ = std::max(end_, last + 1);
+        if (first < first_) first_ = first;
+        if (last >= end_) end_ = last + 1;
     }
     [[nodiscard]] std::uint32_t first() const { return first_ < end_ ? first_ : 0; }
     [[nodiscard]] std::uint32_t size() const { return first_ < end_ ? end_ - first_ : 0; }
@@ -155,14 +155,14 @@ class SheetReader {
 
   private:
     void take(const BiffRecord& record);
+    void take_dimensions(const BiffRecord& record);
     void take_geometry(const BiffRecord& record);
-    void take_number(const BiffRecord& record, double value);
-    void take_label(const BiffRecord& record);
-    void take_shared_string(const BiffRecord& record);
-    void take_boolean_or_error(const BiffRecord& record);
+    void take_cell(const BiffRecord& record);
+    [[nodiscard]] bool take_value(const BiffRecord& record, Cell& cell);
+    [[nodiscard]] bool take_formula(const BiffRecord& record, Cell& cell);
+    [[nodiscard]] std::uint32_t text_of_label(const BiffRecord& record);
     void take_blanks(const BiffRecord& record);
     void take_numbers(const BiffRecord& record);
-    void take_formula(const BiffRecord& record);
     void take_formula_string(const BiffRecord& record);
     void finish();
 
@@ -172,11 +172,12 @@ class SheetReader {
                (record.type == biff::formula && context_.encoding.version == Biff::biff2);
     }
     [[nodiscard]] std::size_t head_size(const BiffRecord& record) const { return is_old(record) ? 7 : 6; }
-    [[nodiscard]] std::optional<Cell> cell_of(const BiffRecord& record);
+    // These two are done for every cell, which as a part of the loop stays in registers.
+    [[nodiscard, gnu::always_inline]] std::optional<Cell> cell_of(const BiffRecord& record) const;
+    [[gnu::always_inline]] void add(const Cell& cell);
     [[nodiscard]] std::uint32_t format_of(std::size_t style) const {
         return style < context_.cell_formats.size() ? context_.cell_formats[style] : 0;
     }
-    void add(const Cell& cell);
     [[nodiscard]] std::uint32_t add_text(std::string_view text);
 
     BiffCursor cursor_;
@@ -195,7 +196,7 @@ bool comes_before(const Cell& left, const Cell& right) {
     return left.row != right.row ? left.row < right.row : left.column < right.column;
 }
 
-std::optional<Cell> SheetReader::cell_of(const BiffRecord& record) {
+inline std::optional<Cell> SheetReader::cell_of(const BiffRecord& record) const {
     Cell cell;
     if (record.data.size() < head_size(record) || word_at(record.data, 2) >= most_columns) return std::nullopt;
     cell.row = word_at(record.data, 0);
@@ -205,7 +206,7 @@ std::optional<Cell> SheetReader::cell_of(const BiffRecord& record) {
 }
 
 // Blank cells show nothing, so they only count for the used range, unless they may take the place of an earlier cell.
-void SheetReader::add(const Cell& cell) {
+inline void SheetReader::add(const Cell& cell) {
     used_.include_cell(cell.row, cell.column);
     awaits_string_.reset();
     const bool next = sheet_.cells.empty() || comes_before(sheet_.cells.back(), cell);
@@ -223,44 +224,29 @@ std::uint32_t SheetReader::add_text(std::string_view text) {
 }
 
 void SheetReader::take(const BiffRecord& record) {
-    const std::size_t body = head_size(record);
     switch (record.type) {
     case biff::blank_2:
     case biff::blank:
-        if (const auto cell = cell_of(record)) add(*cell);
-        break;
     case biff::integer_2:
-        take_number(record, word_at(record.data, body));
-        break;
     case biff::number_2:
     case biff::number:
-        take_number(record, double_at(record.data, body));
-        break;
     case biff::rk:
-        take_number(record, rk_value(long_at(record.data, body)));
-        break;
     case biff::label_2:
     case biff::label:
     case biff::rstring:
-        take_label(record);
-        break;
     case biff::labelsst:
-        take_shared_string(record);
-        break;
     case biff::boolerr_2:
     case biff::boolerr:
-        take_boolean_or_error(record);
+    case biff::formula:
+    case biff::formula_3:
+    case biff::formula_4:
+        take_cell(record);
         break;
     case biff::mulrk:
         take_numbers(record);
         break;
     case biff::mulblank:
         take_blanks(record);
-        break;
-    case biff::formula:
-    case biff::formula_3:
-    case biff::formula_4:
-        take_formula(record);
         break;
     case biff::string_2:
     case biff::string:
@@ -282,6 +268,9 @@ void SheetReader::take_geometry(const BiffRecord& record) {
     case biff::row:
         used_.include_row(record);
         break;
+    case biff::dimensions:
+        take_dimensions(record);
+        break;
     case biff::colwidth_2:
         widths_.set_stored(byte_at(record.data, 0), byte_at(record.data, 1), word_at(record.data, 2));
         break;
@@ -296,43 +285,94 @@ void SheetReader::take_geometry(const BiffRecord& record) {
     }
 }
 
-void SheetReader::take_number(const BiffRecord& record, double value) {
-    if (auto cell = cell_of(record)) {
-        cell->kind = CellKind::number;
-        cell->number = value;
-        add(*cell);
-    }
+// A hint of BIFF8 how much memory to take at once, and no more: it may say anything.
+void SheetReader::take_dimensions(const BiffRecord& record) {
+    constexpr std::size_t usual_record = 14; // of a text or a short number
+    if (context_.encoding.version != Biff::biff8 || sheet_.cells.capacity() > 0) return;
+    const std::size_t rows = long_at(record.data, 4) - long_at(record.data, 0);
+    const std::size_t columns = word_at(record.data, 10);
+    sheet_.cells.reserve(std::min({rows * columns, cursor_.bytes_left() / usual_record, most_cells}));
 }
 
-void SheetReader::take_label(const BiffRecord& record) {
+// A record of one cell.
+void SheetReader::take_cell(const BiffRecord& record) {
     auto cell = cell_of(record);
     if (!cell) return;
+    const bool string_follows = take_value(record, *cell);
+    add(*cell);
+    if (string_follows) awaits_string_ = sheet_.cells.size() - 1;
+}
+
+// Gives the cell what stands behind its head. True when that is still to come, in a STRING record.
+bool SheetReader::take_value(const BiffRecord& record, Cell& cell) {
+    const std::size_t body = head_size(record);
+    const auto set_number = [&cell](double value) {
+        cell.kind = CellKind::number;
+        cell.number = value;
+    };
+    const auto set_text = [&cell](std::uint32_t text) {
+        cell.kind = CellKind::text;
+        cell.text = text;
+    };
+    switch (record.type) {
+    case biff::labelsst: // a number beyond the table leaves the cell blank
+        if (const auto text = long_at(record.data, body); text < context_.shared_strings) set_text(text);
+        break;
+    case biff::number_2:
+    case biff::number:
+        set_number(double_at(record.data, body));
+        break;
+    case biff::rk:
+        set_number(rk_value(long_at(record.data, body)));
+        break;
+    case biff::integer_2:
+        set_number(word_at(record.data, body));
+        break;
+    case biff::label_2:
+    case biff::label:
+    case biff::rstring:
+        set_text(text_of_label(record));
+        break;
+    case biff::boolerr_2:
+    case biff::boolerr:
+        cell.kind = byte_at(record.data, body + 1) == 0 ? CellKind::boolean : CellKind::error;
+        cell.number = byte_at(record.data, body);
+        break;
+    case biff::formula:
+    case biff::formula_3:
+    case biff::formula_4:
+        return take_formula(record, cell);
+    default: // blank
+        break;
+    }
+    return false;
+}
+
+// The cached result is a number, unless its last two bytes are FF FF: then the first byte tells the kind.
+bool SheetReader::take_formula(const BiffRecord& record, Cell& cell) {
+    const std::size_t body = head_size(record);
+    if (word_at(record.data, body + 6) != 0xFFFF) {
+        cell.kind = CellKind::number;
+        cell.number = double_at(record.data, body);
+        return false;
+    }
+    enum class Result : std::uint8_t { string = 0, boolean = 1, error = 2, empty_string = 3 };
+    const auto result = static_cast<Result>(byte_at(record.data, body));
+    if (result == Result::boolean || result == Result::error) {
+        cell.kind = result == Result::boolean ? CellKind::boolean : CellKind::error;
+        cell.number = byte_at(record.data, body + 2);
+        return false;
+    }
+    cell.kind = CellKind::text;
+    cell.text = add_text({});
+    return result == Result::string;
+}
+
+std::uint32_t SheetReader::text_of_label(const BiffRecord& record) {
     BiffText text(cursor_, record.data);
     text.skip(head_size(record));
     const std::size_t length = record.type == biff::label_2 ? text.byte() : text.word();
-    cell->kind = CellKind::text;
-    cell->text = add_text(text.string(length, context_.encoding));
-    add(*cell);
-}
-
-void SheetReader::take_shared_string(const BiffRecord& record) {
-    auto cell = cell_of(record);
-    if (!cell) return;
-    const std::uint32_t number = long_at(record.data, head_size(record));
-    if (number < context_.shared_strings) { // a number beyond the table leaves the cell blank
-        cell->kind = CellKind::text;
-        cell->text = number;
-    }
-    add(*cell);
-}
-
-void SheetReader::take_boolean_or_error(const BiffRecord& record) {
-    auto cell = cell_of(record);
-    if (!cell) return;
-    const std::size_t body = head_size(record);
-    cell->kind = byte_at(record.data, body + 1) == 0 ? CellKind::boolean : CellKind::error;
-    cell->number = byte_at(record.data, body);
-    add(*cell);
+    return add_text(text.string(length, context_.encoding));
 }
 
 void SheetReader::take_blanks(const BiffRecord& record) {
@@ -358,31 +398,6 @@ void SheetReader::take_numbers(const BiffRecord& record) {
         add(*cell);
         ++cell->column;
     }
-}
-
-// The cached result is a number, unless its last two bytes are FF FF: then the first byte tells the kind.
-void SheetReader::take_formula(const BiffRecord& record) {
-    auto cell = cell_of(record);
-    if (!cell) return;
-    const std::size_t body = head_size(record);
-    if (word_at(record.data, body + 6) != 0xFFFF) {
-        take_number(record, double_at(record.data, body));
-        return;
-    }
-    enum class Result : std::uint8_t { string = 0, boolean = 1, error = 2, empty_string = 3 };
-    const auto result = static_cast<Result>(byte_at(record.data, body));
-    cell->number = byte_at(record.data, body + 2);
-    if (result == Result::boolean) {
-        cell->kind = CellKind::boolean;
-    } else if (result == Result::error) {
-        cell->kind = CellKind::error;
-    } else {
-        cell->kind = CellKind::text;
-        cell->number = 0;
-        cell->text = add_text({});
-    }
-    add(*cell);
-    if (result == Result::string) awaits_string_ = sheet_.cells.size() - 1;
 }
 
 // Records of shared formulas, arrays and tables may stand between a formula and its string.

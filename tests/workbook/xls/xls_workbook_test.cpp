@@ -214,6 +214,30 @@ TEST(XlsWerkmap, de_opgegeven_afmeting_wordt_niet_geloofd) {
     EXPECT_EQ(used(sheet_8(claim)), (Used{0, 0, 0, 0}));
 }
 
+TEST(XlsWerkmap, de_opgegeven_afmeting_zegt_hooguit_hoeveel_geheugen_er_vast_is) {
+    const auto claim = [](std::uint32_t first_row, std::uint32_t end_row, unsigned columns) {
+        return Bytes().record(0x0200, Bytes().u32(first_row).u32(end_row).u16(0).u16(columns).u16(0));
+    };
+    Bytes cells;
+    for (unsigned row = 0; row < 50; ++row)
+        cells.add(shared(row, 0, 0)).add(number(row, 1, 1.5));
+    const auto capacity = [&](const Bytes& claims) {
+        const auto book = open_xls(sheet_8(Bytes(claims).add(cells)).bytes());
+        const auto sheet = (*book)->read_sheet(0);
+        EXPECT_EQ(sheet->cells.size(), 50U); // of the texts there is none
+        return sheet->cells.capacity();
+    };
+    EXPECT_EQ(capacity(claim(0, 50, 2)), 100U);
+    EXPECT_EQ(capacity(claim(10, 50, 2)), 80U);
+    EXPECT_EQ(capacity(claim(0, 50, 2).add(claim(0, 100, 2))), 100U); // the first one counts
+    const std::size_t largest = (cells.size() + 4) / 14;              // with the end of the sheet
+    EXPECT_EQ(capacity(claim(0, 65536, 256)), largest);
+    EXPECT_EQ(capacity(claim(0, 0xFFFFFFFF, 65535)), largest);
+    EXPECT_EQ(capacity(claim(5, 0, 65535)), largest);
+    for (const Bytes& wrong : {claim(0, 0, 0), claim(0, 1, 1), claim(0, 50, 0)}) // too little is no limit
+        EXPECT_GE(capacity(wrong), 50U);
+}
+
 TEST(XlsWerkmap, rijen_met_een_eigen_hoogte_of_opmaak_en_verborgen_rijen_tellen_mee) {
     EXPECT_EQ(used(sheet_8(row(0, 0, 0, 0x140).add(number(2, 1, 1)))), (Used{0, 1, 3, 1}));
     EXPECT_EQ(used(sheet_8(row(7, 0, 0, 0x180).add(number(2, 1, 1)))), (Used{2, 1, 6, 1}));

@@ -43,7 +43,10 @@ packages_windows=(
     qt6-base-dev qt6-base-dev-tools cmake ninja-build pkgconf dpkg-dev perl python3
     librsvg2-bin icoutils nsis zip googletest cmark-gfm
 )
-packages_windows_try=(wine wine64 xvfb openbox xdotool imagemagick x11-utils fonts-liberation python3)
+packages_windows_try=(
+    wine wine64 xvfb openbox xdotool imagemagick x11-utils fonts-liberation python3
+    xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils
+)
 
 # install_missing PACKAGE...: asks apt for what is not installed yet and stays silent when nothing is missing.
 install_missing() {

@@ -87,13 +87,15 @@ TEST(Xml, een_merk_zonder_eind_wordt_niet_eindeloos_gelezen) {
     EXPECT_EQ(told("<a b='" + std::string(1'300'000, 'x') + "'/>"), damaged);
 }
 
-// The text is fed in pieces of 64 KiB, so the place of the tag decides how much of it is there when it is looked at.
+// The text is fed in pieces of 64 KiB, so the place of the tag decides how much of it is there when it is looked at. An
+// expat with Debian's later patches looks at an unfinished tag again only when twice as much of it is there: what ends
+// in the sixteenth piece it has seen in time, what ends in the next one it has not.
 TEST(Xml, een_merk_mag_een_mebibyte_lang_zijn) {
     const auto of = [](std::size_t place, std::size_t length) {
         return told("<b>" + std::string(place - 3, 'x') + "<a b='" + std::string(length - 10, 'y') + "'/></b>");
     };
     EXPECT_EQ(of(65536 - 500, 1'050'000), damaged); // 500 more than a mebibyte have come, and no end
-    EXPECT_NE(of(576, 1'049'000), damaged);         // 576 less
+    EXPECT_NE(of(576, 1'047'000), damaged);         // all of it, and not yet a mebibyte
 }
 
 TEST(Xml, houdt_op_wanneer_de_lezer_genoeg_heeft) {

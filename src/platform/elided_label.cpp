@@ -14,13 +14,18 @@ QString plain_tooltip(const QString& text) {
     return text.isEmpty() ? QString() : QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped());
 }
 
+int line_height(const QFontMetrics& letters) {
+    const auto height = [&letters](const QString& text) { return letters.boundingRect(QRect(), 0, text).height(); };
+    return height(QStringLiteral("x\nx")) - height(QStringLiteral("x"));
+}
+
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
 QRect ElidedLabel::place() const { return contentsRect().adjusted(margin(), 0, -margin(), 0); }
 
 ElidedLabel::Shown ElidedLabel::shown() const {
     const int width = place().width();
-    const int lines = height() / fontMetrics().lineSpacing();
+    const int lines = height() / line_height(fontMetrics());
     if (lines < 2) {
         const QString line = fontMetrics().elidedText(text(), Qt::ElideRight, width);
         return {line, line != text()};

@@ -26,6 +26,10 @@ class ElidedLabel final : public QLabel {
     [[nodiscard]] Shown shown() const;
 };
 
+// From one line of a text to the next, as they are painted. The toolkit's own answer rounds each part of it, so that
+// many lines may become higher than it says.
+[[nodiscard]] int line_height(const QFontMetrics& letters);
+
 // A tooltip that shows the text as it stands, whatever signs are in it.
 [[nodiscard]] QString plain_tooltip(const QString& text);
 

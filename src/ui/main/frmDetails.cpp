@@ -57,7 +57,7 @@ RoosterDetails::RoosterDetails(QWidget* ouder) : QGroupBox(QStringLiteral("Roost
     zet_hoogte(height());
 }
 
-int RoosterDetails::regelhoogte() const { return fontMetrics().lineSpacing() + 3; }
+int RoosterDetails::regelhoogte() const { return line_height(fontMetrics()) + 3; }
 int RoosterDetails::titelhoogte() const { return fontMetrics().height() + 10; }
 
 int RoosterDetails::kleinste_hoogte() const {
@@ -82,7 +82,7 @@ void RoosterDetails::toon(const RubriekLabels& labels) {
 
 // A line for each, and what is left over to the long ones, the upper first.
 void RoosterDetails::verdeel() {
-    const int regel = fontMetrics().lineSpacing();
+    const int regel = line_height(fontMetrics());
     int vrij = (hoogte_ - kleinste_hoogte()) / regel;
     int y = titelhoogte();
     for (const Detail& detail : details_) {

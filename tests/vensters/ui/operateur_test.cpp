@@ -105,6 +105,16 @@ struct OperateurMetHandleiding : Operateur {
         QTest::keyClick(&waarin, Qt::Key_F1, met);
         return browser.opened.size();
     }
+    // The same key in the next dialog, which waits until it is answered; then closes it.
+    void beantwoord_met_f1() {
+        QTimer::singleShot(0, venster.get(), [this] {
+            QWidget* vraag = QApplication::activeModalWidget();
+            ASSERT_NE(vraag, nullptr);
+            in_vragen += na_f1(vraag->focusWidget() ? *vraag->focusWidget() : *vraag);
+            vraag->close();
+        });
+    }
+    std::size_t in_vragen = 0;
 };
 
 TEST_F(Operateur, het_nummervak_kleurt_en_zegt_het_als_zijn_nummer_niet_in_de_lijst_staat) {
@@ -379,19 +389,19 @@ TEST_F(OperateurMetHandleiding, f1_opent_de_handleiding_uit_elk_venster_van_de_o
     QTest::keyClick(&txtINR(), Qt::Key_F6);
     EXPECT_EQ(na_f1(wijzigingen()), 1U);
     DialogOwner eigenaar{venster.get()};
-    int in_vragen = 0; // a dialog waits until it is answered
-    const auto antwoord = [&] {
-        QWidget* vraag = QApplication::activeModalWidget();
-        ASSERT_NE(vraag, nullptr);
-        in_vragen += static_cast<int>(na_f1(vraag->focusWidget() ? *vraag->focusWidget() : *vraag));
-        vraag->close();
-    };
-    QTimer::singleShot(0, venster.get(), antwoord);
+    beantwoord_met_f1();
     QtMessageBox(eigenaar).show("Geef op in welke kolommen");
-    QTimer::singleShot(0, venster.get(), antwoord);
-    EXPECT_EQ(QtOpenDialog(eigenaar).ask({map.file(""), "Roosters|*.rst"}), std::nullopt);
-    EXPECT_EQ(in_vragen, 2);
+    EXPECT_EQ(in_vragen, 1U);
 }
+
+#ifndef _WIN32 // there that dialog is the system's, and so is the key in it
+TEST_F(OperateurMetHandleiding, f1_opent_de_handleiding_ook_uit_het_venster_waarin_hij_een_bestand_kiest) {
+    DialogOwner eigenaar{venster.get()};
+    beantwoord_met_f1();
+    EXPECT_EQ(QtOpenDialog(eigenaar).ask({map.file(""), "Roosters|*.rst"}), std::nullopt);
+    EXPECT_EQ(in_vragen, 1U);
+}
+#endif
 
 TEST_F(OperateurMetHandleiding, f1_laat_een_half_getypt_nummer_staan) {
     open({{72, "Jan"}, {7, "Kees"}});
@@ -503,6 +513,19 @@ TEST_F(Operateur, een_afgebroken_cel_vertelt_haar_hele_tekst) {
     const auto cel = [this](int rij) { return grdRooster().visualRect(grdRooster().model()->index(rij, kolom_naam)); };
     EXPECT_TRUE(uitleg(*grdRooster().viewport(), cel(0).center()).contains(qt_text(lang)));
     EXPECT_EQ(uitleg(*grdRooster().viewport(), cel(1).center()), "");
+}
+
+TEST(Regelhoogte, is_die_van_het_schilderen_ook_waar_letters_niet_op_hele_pixels_staan) {
+    QFont letter(QStringLiteral("Arial"));
+    letter.setHintingPreference(QFont::PreferNoHinting);
+    const QString tien_regels = QStringLiteral("x\n").repeated(9) + 'x';
+    for (int maat = 8; maat <= 24; ++maat) {
+        letter.setPixelSize(maat);
+        const QFontMetrics meter(letter);
+        const int geschilderd = meter.boundingRect(QRect(), 0, tien_regels).height();
+        EXPECT_LE(geschilderd, 10 * line_height(meter)) << maat;
+        EXPECT_GT(geschilderd, 10 * (line_height(meter) - 1)) << maat;
+    }
 }
 
 TEST(LangeTekst, staat_op_twee_regels_waar_er_plaats_voor_is) {

@@ -21,9 +21,7 @@ void Grid::set_rows(int rows) {
         used_bytes_ -= rows_.back().bytes;
         rows_.pop_back();
     }
-    rows_.reserve(wanted);
-    while (rows_.size() < wanted)
-        rows_.push_back(new_row({}));
+    rows_.resize(wanted);
     tidy_store();
     keep_positions_inside();
     tell_reset();
@@ -50,9 +48,10 @@ void Grid::set_fixed_columns(int columns) {
 
 void Grid::set_text(int row, int column, std::string_view text) {
     if (!has_cell(row, column)) return;
+    if (text == this->text(row, column)) return;
     Row& changed = rows_[static_cast<std::size_t>(row)];
+    if (changed.cells == nullptr) fill(changed, {});
     std::string_view& cell = changed.cells[column];
-    if (cell == text) return;
     const std::size_t had = cell.size();
     cell = text.empty() ? std::string_view() : copied(text, static_cast<char*>(store_->allocate(text.size(), 1)));
     account(changed, cell.size(), had);
@@ -62,22 +61,35 @@ void Grid::set_text(int row, int column, std::string_view text) {
 void Grid::set_row_texts(int row, std::span<const std::string_view> texts) {
     if (row < 0 || row >= rows()) return;
     texts = texts.first(std::min(texts.size(), static_cast<std::size_t>(columns_)));
+    Row& changed = rows_[static_cast<std::size_t>(row)];
+    if (changed.cells == nullptr)
+        fill(changed, texts);
+    else
+        replace(changed, texts);
+    if (GridListener* listener = audience())
+        for (int column = 0; column < static_cast<int>(texts.size()); ++column)
+            listener->cell_changed(row, column);
+}
+
+void Grid::fill(Row& row, std::span<const std::string_view> texts) {
+    const std::int32_t value = row.value;
+    row = new_row(texts);
+    row.value = value;
+}
+
+void Grid::replace(Row& row, std::span<const std::string_view> texts) {
     std::size_t bytes = 0;
     for (const std::string_view text : texts)
         bytes += text.size();
     auto* place = bytes == 0 ? nullptr : static_cast<char*>(store_->allocate(bytes, 1));
-    Row& changed = rows_[static_cast<std::size_t>(row)];
     std::size_t had = 0;
     for (std::size_t column = 0; column < texts.size(); ++column) {
-        std::string_view& cell = changed.cells[column];
+        std::string_view& cell = row.cells[column];
         had += cell.size();
         cell = copied(texts[column], place);
         place += cell.size();
     }
-    account(changed, bytes, had);
-    if (GridListener* listener = audience())
-        for (int column = 0; column < static_cast<int>(texts.size()); ++column)
-            listener->cell_changed(row, column);
+    account(row, bytes, had);
 }
 
 void Grid::account(Row& row, std::size_t added, std::size_t left_behind) {
@@ -205,10 +217,11 @@ void Grid::store_all_again(int columns) {
     rows.reserve(rows_.capacity()); // a grid that is emptied is often filled again
     std::size_t bytes = 0;
     for (const Row& row : rows_) {
-        rows.push_back(
-            stored(*store, static_cast<std::size_t>(columns), {row.cells, static_cast<std::size_t>(columns_)}));
-        rows.back().value = row.value;
-        bytes += rows.back().bytes;
+        Row& again = rows.emplace_back();
+        if (row.cells != nullptr)
+            again = stored(*store, static_cast<std::size_t>(columns), {row.cells, static_cast<std::size_t>(columns_)});
+        again.value = row.value;
+        bytes += again.bytes;
     }
     rows_ = std::move(rows);
     store_ = std::move(store);

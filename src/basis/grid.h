@@ -44,7 +44,9 @@ class Grid {
 
     // A view that holds until the grid changes.
     [[nodiscard]] std::string_view text(int row, int column) const {
-        return has_cell(row, column) ? rows_[static_cast<std::size_t>(row)].cells[column] : std::string_view();
+        if (!has_cell(row, column)) return {};
+        const std::string_view* const cells = rows_[static_cast<std::size_t>(row)].cells;
+        return cells == nullptr ? std::string_view() : cells[column];
     }
     void set_text(int row, int column, std::string_view text);
     // The same for the cells of a row from column 0 on, quicker. Texts beyond the last column are dropped, cells
@@ -91,7 +93,7 @@ class Grid {
   private:
     // The texts of a row lie together behind its cells, in the store.
     struct Row {
-        std::string_view* cells = nullptr; // one per column
+        std::string_view* cells = nullptr; // one per column; null as long as the row is empty
         std::size_t bytes = 0;             // of the store that are in use for it
         std::int32_t value = 0;
     };
@@ -110,6 +112,8 @@ class Grid {
     [[nodiscard]] static Row stored(std::pmr::memory_resource& store, std::size_t columns,
                                     std::span<const std::string_view> texts);
     [[nodiscard]] Row new_row(std::span<const std::string_view> texts);
+    void fill(Row& row, std::span<const std::string_view> texts);    // that is empty
+    void replace(Row& row, std::span<const std::string_view> texts); // that has cells
     void store_all_again(int columns);
     void tidy_store();
     void keep_positions_inside();

@@ -60,7 +60,8 @@ const NumberFormat& DisplayedTexts::parsed_format_of(const Cell& cell) {
     if (cell.format >= codes.size()) return general_;
     if (formats_.size() <= cell.format) formats_.resize(codes.size());
     const std::string_view code = codes[cell.format];
-    return formats_[cell.format].emplace(code.size() <= longest_format_code ? code_in_locale(code, locale_) : "");
+    const std::string_view shown = code.size() <= longest_format_code ? code_in_locale(code, locale_) : "";
+    return *(formats_[cell.format] = std::make_unique<const NumberFormat>(shown));
 }
 
 } // namespace tavelo

@@ -6,7 +6,7 @@
 #include "workbook/text/number_format.h"
 
 #include <cstddef>
-#include <optional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,7 +47,7 @@ class DisplayedTexts {
     const Locale& locale_;
     const TextTable& texts_;
     const DateSystem dates_;
-    std::vector<std::optional<NumberFormat>> formats_;
+    std::vector<std::unique_ptr<const NumberFormat>> formats_; // null until a cell needs it
     NumberFormat general_{""};
     std::string made_;
     std::size_t bytes_left_ = most_shown_bytes;

@@ -190,6 +190,20 @@ TEST(Grid, wie_rijen_blijft_vullen_en_weghalen_houdt_het_geheugen_klein) {
     }
 }
 
+TEST(Grid, een_lege_rij_neemt_geen_geheugen_voor_haar_cellen) {
+    const std::size_t voor = test::heap_bytes();
+    Grid grid = grid_van(1000, 500);
+    EXPECT_LT(test::heap_bytes(), voor + 200'000); // of eight million for the cells
+    grid.set_text(999, 499, "");
+    grid.set_row_value(7, 3);
+    grid.set_text(7, 499, "x");
+    grid.set_columns(501);
+    EXPECT_LT(test::heap_bytes(), voor + 200'000);
+    EXPECT_EQ(test::row_texts(grid, 8), Texts(501));
+    EXPECT_EQ(grid.text(7, 499), "x");
+    EXPECT_EQ(grid.row_value(7), 3);
+}
+
 TEST(Grid, de_teksten_van_een_rij_komen_in_een_keer) {
     Grid grid = grid_van(3, 2);
     grid.set_row_value(1, 7);

@@ -90,6 +90,23 @@ TEST(Text, windows_1252_wordt_gelezen_met_zijn_vijf_lege_plaatsen) {
     EXPECT_EQ(from_windows_1252(std::string_view("a\0b\x1A", 4)), std::string("a\0b\x1A", 4));
 }
 
+TEST(Text, windows_1252_staat_er_al_als_het_ascii_is) {
+    std::string room = "oud";
+    for (const std::string_view plain :
+         {std::string_view(""), std::string_view("a\0\x7F", 3), std::string_view("caf")}) {
+        const std::string_view view = view_of_windows_1252(plain, room);
+        EXPECT_EQ(view, plain);
+        EXPECT_EQ(view.data(), plain.data());
+    }
+    const std::string_view made = view_of_windows_1252("caf\xE9s", room);
+    EXPECT_EQ(made, "cafés");
+    EXPECT_EQ(made.data(), room.data());
+    from_windows_1252("plat", room);
+    EXPECT_EQ(room, "plat");
+    from_windows_1252("", room);
+    EXPECT_EQ(room, "");
+}
+
 TEST(Text, een_vreemde_letter_wordt_op_elke_plaats_in_een_lange_tekst_gevonden) {
     for (std::size_t lengte = 0; lengte < 40; ++lengte) {
         for (std::size_t plaats = 0; plaats <= lengte; ++plaats) {

@@ -65,9 +65,10 @@ template <class Test>
     const std::size_t left = text.size() - begin;
     if (text.size() >= mask_width) // the last whole block holds it
         return mask_of_block(text.data() + text.size() - mask_width, test) >> (mask_width - left);
-    char block[mask_width];
-    std::memcpy(block, text.data() + begin, left);
-    return mask_of_block(block, test) & ((std::uint64_t{1} << left) - 1);
+    std::uint64_t mask = 0; // one by one: copied into a block they would have to be waited for
+    for (std::size_t at = 0; at < left; ++at)
+        mask |= std::uint64_t{test(text[begin + at])} << at;
+    return mask;
 }
 
 // Of the block of a text that begins at `begin`, inside it.

@@ -9,10 +9,9 @@
 #include "basis/number.h"
 #include "basis/system_time.h"
 #include "excel/builtin_excel.h"
+#include "platform/application.h"
 #include "platform/browser.h"
 #include "platform/fonts.h"
-#include "platform/pointer.h"
-#include "platform/post.h"
 #include "schedule/record/kolommen.h"
 #include "ui/main/frmTavelo.h"
 

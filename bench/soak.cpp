@@ -16,7 +16,6 @@
 #include "fakes/grid_events.h"
 #include "fakes/temp_folder.h"
 #include "platform/application.h"
-#include "platform/post.h"
 #include "schedule/toeval.h"
 #include "ui/display/frmDeelnemer.h"
 #include "ui/settings/frmInstellingen.h"

@@ -14,8 +14,6 @@
 #include "platform/excel.h"
 #include "platform/fonts.h"
 #include "platform/mouse_wheel.h"
-#include "platform/pointer.h"
-#include "platform/post.h"
 #include "platform/qt_text.h"
 #include "platform/special_folders.h"
 #include "platform/user_settings.h"

@@ -1,6 +1,7 @@
 #include "platform/application.h"
 
 #include <QAbstractButton>
+#include <QCursor>
 #include <QDebug>
 #include <QKeyEvent>
 #include <QPixmapCache>
@@ -8,6 +9,7 @@
 #include <QShortcutEvent>
 
 #include <exception>
+#include <utility>
 
 namespace tavelo {
 
@@ -65,6 +67,14 @@ bool Application::notify(QObject* receiver, QEvent* event) {
         qWarning() << "event handler stopped:" << error.what();
         return true;
     }
+}
+
+void QtPointer::busy() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+
+void QtPointer::normal() { QGuiApplication::restoreOverrideCursor(); }
+
+void post_to_interface(std::function<void()> step) {
+    QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(step), Qt::QueuedConnection);
 }
 
 } // namespace tavelo

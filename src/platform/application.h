@@ -3,6 +3,8 @@
 // settings.
 #pragma once
 
+#include "basis/seams.h"
+
 #include <QApplication>
 
 #include <functional>
@@ -22,5 +24,16 @@ class Application final : public QApplication {
   private:
     std::function<void(const QWidget& venster)> f1_ = [](const QWidget&) {};
 };
+
+// The hourglass over the whole program.
+class QtPointer final : public Pointer {
+  public:
+    void busy() override;
+    void normal() override;
+};
+
+// The way from another thread: has a step done by the event loop of the interface, also while a dialog is open. Called
+// from any thread for as long as the application lives.
+void post_to_interface(std::function<void()> step);
 
 } // namespace tavelo

@@ -2,6 +2,7 @@
 
 #include "platform/linux/safe_file.h"
 #include "platform/qt_text.h"
+#include "platform/user_settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -94,5 +95,7 @@ void UserSettingsStore::write_file(const std::string& application, const std::ve
     const auto written = replace_file(path, text);
     if (!written) log_fault("not written:", path, written.error());
 }
+
+std::unique_ptr<SettingsStore> user_settings() { return std::make_unique<UserSettingsStore>(); }
 
 } // namespace tavelo

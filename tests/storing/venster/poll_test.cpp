@@ -2,7 +2,7 @@
 #include "basis/background_reader.h"
 #include "basis/system_time.h"
 #include "fakes/hoofdvenster.h"
-#include "platform/post.h"
+#include "platform/application.h"
 #include "schedule/record/kolommen.h"
 #include "storing/storing.h"
 

@@ -1,6 +1,6 @@
+#include "platform/application.h"
 #include "platform/codeWindowPos.h"
 #include "platform/icons.h"
-#include "platform/pointer.h"
 #include "platform/qt_text.h"
 #include "platform/special_folders.h"
 

@@ -1,7 +1,7 @@
 #include "platform/dialogs.h"
 
 #include "fakes/temp_folder.h"
-#include "platform/linux/open_dialog.h"
+#include "platform/linux/dialogs.h"
 #include "platform/qt_text.h"
 #include "vensters/platform/in_dialoog.h"
 

@@ -2,6 +2,7 @@
 // that begin as the content of an OpenDocument spreadsheet are packed first. Reads the sheets and renders every text;
 // whatever the bytes are, every index in the answer must hold and every text be valid.
 #include "eis.h"
+#include "workbook/book/containers.h"
 #include "workbook/workbook.h"
 #include "workbook/xlsx/xlsx_maker.h"
 

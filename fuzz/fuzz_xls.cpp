@@ -1,5 +1,6 @@
 // Opens the bytes as an .xls workbook, reads its sheets and renders their texts; whatever the bytes are, every index in
 // the answer must hold.
+#include "workbook/book/containers.h"
 #include "workbook/workbook.h"
 
 #include <algorithm>

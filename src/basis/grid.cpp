@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 #include <utility>
 
 namespace tavelo {
@@ -53,7 +54,7 @@ void Grid::set_text(int row, int column, std::string_view text) {
     if (changed.cells == nullptr) fill(changed, {});
     std::string_view& cell = changed.cells[column];
     const std::size_t had = cell.size();
-    cell = text.empty() ? std::string_view() : copied(text, static_cast<char*>(store_->allocate(text.size(), 1)));
+    cell = text.empty() ? std::string_view() : copied(text, static_cast<char*>(store_.allocate(text.size(), 1)));
     account(changed, cell.size(), had);
     if (GridListener* listener = audience()) listener->cell_changed(row, column);
 }
@@ -81,7 +82,7 @@ void Grid::replace(Row& row, std::span<const std::string_view> texts) {
     std::size_t bytes = 0;
     for (const std::string_view text : texts)
         bytes += text.size();
-    auto* place = bytes == 0 ? nullptr : static_cast<char*>(store_->allocate(bytes, 1));
+    auto* place = bytes == 0 ? nullptr : static_cast<char*>(store_.allocate(bytes, 1));
     std::size_t had = 0;
     for (std::size_t column = 0; column < texts.size(); ++column) {
         std::string_view& cell = row.cells[column];
@@ -186,7 +187,7 @@ void Grid::remove_row(int row) {
     }
 }
 
-Grid::Row Grid::stored(std::pmr::memory_resource& store, std::size_t columns, std::span<const std::string_view> texts) {
+Grid::Row Grid::stored(TextStore& store, std::size_t columns, std::span<const std::string_view> texts) {
     texts = texts.first(std::min(texts.size(), columns));
     Row row;
     row.bytes = columns * sizeof(std::string_view);
@@ -204,7 +205,7 @@ Grid::Row Grid::stored(std::pmr::memory_resource& store, std::size_t columns, st
 }
 
 Grid::Row Grid::new_row(std::span<const std::string_view> texts) {
-    const Row row = stored(*store_, static_cast<std::size_t>(columns_), texts);
+    const Row row = stored(store_, static_cast<std::size_t>(columns_), texts);
     stored_bytes_ += row.bytes;
     used_bytes_ += row.bytes;
     return row;
@@ -212,14 +213,14 @@ Grid::Row Grid::new_row(std::span<const std::string_view> texts) {
 
 // Changes nothing until all is stored: there may be no memory for it.
 void Grid::store_all_again(int columns) {
-    auto store = std::make_unique<std::pmr::monotonic_buffer_resource>();
+    TextStore store;
     std::vector<Row> rows;
     rows.reserve(rows_.capacity()); // a grid that is emptied is often filled again
     std::size_t bytes = 0;
     for (const Row& row : rows_) {
         Row& again = rows.emplace_back();
         if (row.cells != nullptr)
-            again = stored(*store, static_cast<std::size_t>(columns), {row.cells, static_cast<std::size_t>(columns_)});
+            again = stored(store, static_cast<std::size_t>(columns), {row.cells, static_cast<std::size_t>(columns_)});
         again.value = row.value;
         bytes += again.bytes;
     }

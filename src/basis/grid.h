@@ -4,11 +4,11 @@
 // and keys do.
 #pragma once
 
+#include "basis/text_store.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
-#include <memory_resource>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -109,8 +109,7 @@ class Grid {
     void account(Row& row, std::size_t added, std::size_t left_behind);
     [[nodiscard]] GridListener* audience() const { return redraw_ ? listener_ : nullptr; }
     // A row of its own copies of the texts.
-    [[nodiscard]] static Row stored(std::pmr::memory_resource& store, std::size_t columns,
-                                    std::span<const std::string_view> texts);
+    [[nodiscard]] static Row stored(TextStore& store, std::size_t columns, std::span<const std::string_view> texts);
     [[nodiscard]] Row new_row(std::span<const std::string_view> texts);
     void fill(Row& row, std::span<const std::string_view> texts);    // that is empty
     void replace(Row& row, std::span<const std::string_view> texts); // that has cells
@@ -121,8 +120,7 @@ class Grid {
     void tell_current() const;
 
     // Memory is only added to the store; what rows and cells leave behind is taken back by storing the rest again.
-    std::unique_ptr<std::pmr::monotonic_buffer_resource> store_ =
-        std::make_unique<std::pmr::monotonic_buffer_resource>();
+    TextStore store_;
     std::size_t stored_bytes_ = 0;
     std::size_t used_bytes_ = 0; // of those, by the rows that there are
     std::vector<Row> rows_;

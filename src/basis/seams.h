@@ -2,8 +2,8 @@
 // passed in where a rule needs them. All texts and paths are UTF-8.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -69,15 +69,6 @@ class ColourDialog {
   public:
     virtual ~ColourDialog() = default;
     [[nodiscard]] virtual std::optional<std::int32_t> ask(std::int32_t preselected) = 0;
-};
-
-// The user's browser.
-class Browser {
-  public:
-    virtual ~Browser() = default;
-    // Has it show the page in the file `path`, and does not wait for it. `failed` is called when that turns out not to
-    // work: before this returns, or later from an event.
-    virtual void open(std::string_view path, std::function<void()> failed) = 0;
 };
 
 // Special folders by their Windows identifier (CSIDL), without a trailing separator; nothing when the system has none.

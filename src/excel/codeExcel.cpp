@@ -4,6 +4,7 @@
 #include "basis/number.h"
 #include "basis/scoped.h"
 #include "basis/text.h"
+#include "excel/automation.h"
 #include "schedule/record/kolommen.h"
 #include "vocabulary/rubriek_woorden.h"
 

@@ -5,12 +5,13 @@
 #include "app/programma.h"
 #include "basis/grid.h"
 #include "basis/seams.h"
-#include "excel/automation.h"
 
 #include <string>
 #include <string_view>
 
 namespace tavelo {
+
+class ExcelApplication;
 
 // Width in twips that the columns of a copied sheet share. The grid is never shown; only their proportions matter.
 inline constexpr int grid_excel_breedte = 15000;

@@ -1,7 +1,7 @@
 // The browser that the desktop has for pages. It goes on when the program ends.
 #pragma once
 
-#include "basis/seams.h"
+#include "basis/browser.h"
 
 namespace tavelo {
 

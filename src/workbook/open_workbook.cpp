@@ -2,6 +2,7 @@
 
 #include "basis/native_path.h"
 #include "basis/plain_file.h"
+#include "workbook/book/containers.h"
 #include "workbook/lookalike/lookalike.h"
 #include "workbook/xlsx/locked_package.h"
 

@@ -2,9 +2,12 @@
 // rules with `bediening`.
 #pragma once
 
+#include "excel/automation.h"
 #include "fakes/seams.h"
 #include "ui/main/bediening.h"
 #include "ui/main/rooster_grid.h"
+
+#include <memory>
 
 namespace tavelo::test {
 

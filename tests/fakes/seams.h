@@ -1,6 +1,7 @@
 // Hand-written fakes of the seams to the platform: they answer what a test tells them and record what they are asked.
 #pragma once
 
+#include "basis/browser.h"
 #include "basis/seams.h"
 #include "basis/text.h"
 

@@ -4,13 +4,14 @@
 
 #include "app/programma.h"
 #include "basis/seams.h"
-#include "excel/automation.h"
 #include "ui/display/schermkeuze.h"
 #include "ui/display/tekenvlak.h"
 #include "ui/main/dagverslag.h"
 #include "ui/main/op_monitor.h"
 
 namespace tavelo {
+
+class ExcelApplication;
 
 // Not owned; all outlive the windows.
 struct Omgeving {

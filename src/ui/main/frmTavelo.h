@@ -20,6 +20,7 @@
 
 namespace tavelo {
 
+class Browser;
 class ElidedLabel;
 class Paneel;
 class RoosterDetails;

@@ -1,6 +1,7 @@
 // The user's manual: a page that the browser shows.
 #pragma once
 
+#include "basis/browser.h"
 #include "ui/main/bediening.h"
 
 #include <functional>

@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <expected>
-#include <memory>
 #include <span>
 #include <string>
 #include <vector>
@@ -110,12 +109,5 @@ class Workbook {
     // May throw std::bad_alloc: read_sheet makes no_memory of it.
     [[nodiscard]] virtual std::expected<Sheet, OpenFailure> sheet_at(std::size_t index) = 0;
 };
-
-// `bytes` is the whole file. Each reader answers not_a_workbook for what is not its container. They may throw
-// std::bad_alloc.
-[[nodiscard]] std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xlsx(std::vector<std::byte> bytes);
-[[nodiscard]] std::expected<std::unique_ptr<Workbook>, OpenFailure> open_xls(std::vector<std::byte> bytes);
-// A compound file, or a stream of records without one.
-[[nodiscard]] bool begins_as_xls(std::span<const std::byte> bytes);
 
 } // namespace tavelo

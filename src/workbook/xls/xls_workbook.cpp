@@ -1,4 +1,4 @@
-#include "workbook/book/model.h"
+#include "workbook/book/containers.h"
 #include "workbook/xls/biff_stream.h"
 #include "workbook/xls/cell_styles.h"
 #include "workbook/xls/code_page.h"

@@ -1,5 +1,5 @@
 // The .xlsx workbook: finds its parts by their relationships and reads them when they are asked for.
-#include "workbook/book/model.h"
+#include "workbook/book/containers.h"
 
 #include "workbook/lookalike/lookalike.h"
 #include "workbook/text/number_format.h"

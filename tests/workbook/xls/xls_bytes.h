@@ -1,7 +1,7 @@
 // Small .xls workbooks, written byte by byte, so that each test says exactly which record layout the reader meets.
 #pragma once
 
-#include "workbook/book/model.h"
+#include "workbook/book/containers.h"
 
 #include <bit>
 #include <string_view>

@@ -1,7 +1,7 @@
 // A sheet that was read, asked by the names of its cells.
 #pragma once
 
-#include "workbook/book/model.h"
+#include "workbook/book/containers.h"
 #include "workbook/displayed_text.h"
 #include "workbook/sheet_box.h"
 #include "workbook/text/locale.h"

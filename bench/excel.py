@@ -59,17 +59,17 @@ def herhaal_rijen(lijst, lang, keren):
     """Writes a workbook with the rows of another so many times below each other; gives the bytes of its sheet."""
     with zipfile.ZipFile(lijst) as van, zipfile.ZipFile(lang, "w", zipfile.ZIP_DEFLATED, compresslevel=1) as naar:
         for deel in van.infolist():
-            inhoud = van.read(deel)
-            if deel.filename == BLAD:
-                begin, rest = inhoud.split(b"<sheetData>")
-                rijen, eind = rest.split(b"</sheetData>")
-                aantal = rijen.count(b"<row ")
-                blokken = (re.sub(rb' r="([A-Z]*)(\d+)"', lambda r, erbij=n * aantal: b' r="%s%d"' % (r[1], int(r[2]) + erbij), rijen)
-                           for n in range(keren))
-                inhoud = begin + b"<sheetData>" + b"".join(blokken) + b"</sheetData>" + eind
-                grootte = len(inhoud)
-            naar.writestr(deel.filename, inhoud)
-    return grootte
+            if deel.filename != BLAD:
+                naar.writestr(deel.filename, van.read(deel))
+        begin, rest = van.read(BLAD).split(b"<sheetData>")
+        rijen, eind = rest.split(b"</sheetData>")
+        aantal = rijen.count(b"<row ")
+        # Block by block: the peak of a process begins at that of the one that starts it.
+        with naar.open(BLAD, "w") as blad:
+            grootte = blad.write(begin + b"<sheetData>")
+            for n in range(keren):
+                grootte += blad.write(re.sub(rb' r="([A-Z]*)(\d+)"', lambda r: b' r="%s%d"' % (r[1], int(r[2]) + n * aantal), rijen))
+            return grootte + blad.write(b"</sheetData>" + eind)
 
 
 def heeft(module):

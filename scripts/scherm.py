@@ -5,12 +5,15 @@ the screen.
 """
 
 import contextlib
+import functools
 import os
 import re
 import shutil
+import struct
 import subprocess
 import tempfile
 import time
+import zlib
 from pathlib import Path
 
 from x11 import X11
@@ -59,20 +62,24 @@ class Beeld:
 
     def aandeel(self, kleur):
         """The share (0 to 1) of the pixels that have exactly this colour."""
-        gelijk = sum(self.rgb[i:i + 3] == bytes(kleur) for i in range(0, len(self.rgb), 3))
-        return gelijk / max(self.breedte * self.hoogte, 1)
+        gelijk = -1
+        for kanaal, waarde in enumerate(kleur):
+            een_waar_gelijk = bytes(getal == waarde for getal in range(256))
+            gelijk &= int.from_bytes(self.rgb[kanaal::3].translate(een_waar_gelijk), "big")
+        return gelijk.bit_count() / max(self.breedte * self.hoogte, 1)
 
     def inkt(self, achtergrond):
         """Left and right edge of what is not background, or nothing when all of it is."""
-        leeg, lijn = bytes(achtergrond) * self.breedte, 3 * self.breedte
-        links, rechts = self.breedte, 0
+        lijn = 3 * self.breedte
+        leeg = int.from_bytes(bytes(achtergrond) * self.breedte, "big")
+        anders = 0  # a line as one number: a bit is on where some line differs
         for begin in range(0, lijn * self.hoogte, lijn):
-            regel = self.rgb[begin:begin + lijn]
-            if regel == leeg:
-                continue
-            anders = [x for x in range(self.breedte) if regel[3 * x:3 * x + 3] != leeg[:3]]
-            links, rechts = min(links, anders[0]), max(rechts, anders[-1] + 1)
-        return (links, rechts) if links < rechts else None
+            anders |= int.from_bytes(self.rgb[begin:begin + lijn], "big") ^ leeg
+        if not anders:
+            return None
+        eerste = lijn - 1 - (anders.bit_length() - 1) // 8
+        laatste = lijn - 1 - ((anders & -anders).bit_length() - 1) // 8
+        return eerste // 3, laatste // 3 + 1
 
     def vlak_van(self, kleur):
         """The smallest area with every pixel of exactly this colour, or nothing."""
@@ -80,11 +87,13 @@ class Beeld:
         gevonden = []
         for y in range(self.hoogte):
             regel = self.rgb[y * lijn:(y + 1) * lijn]
-            if zoek not in regel:
-                continue
-            kolommen = [x for x in range(self.breedte) if regel[3 * x:3 * x + 3] == zoek]
-            if kolommen:
-                gevonden.append((y, kolommen[0], kolommen[-1]))
+            eerste, laatste = regel.find(zoek), regel.rfind(zoek)
+            while eerste % 3 and eerste >= 0:  # across two pixels
+                eerste = regel.find(zoek, eerste + 1)
+            while laatste % 3 and laatste >= 0:
+                laatste = regel.rfind(zoek, 0, laatste + 2)
+            if eerste >= 0:
+                gevonden.append((y, eerste // 3, laatste // 3))
         if not gevonden:
             return None
         links, rechts = min(g[1] for g in gevonden), max(g[2] for g in gevonden)
@@ -92,12 +101,25 @@ class Beeld:
 
     def bewaar(self, pad, kleuren=None, schaal=100):
         """As a PNG; with a number of colours it becomes much smaller. The scale is in percent."""
+        if not kleuren and schaal == 100:
+            Path(pad).write_bytes(self._png())
+            return
         beperking = ["-resize", f"{schaal}%"] if schaal != 100 else []
         beperking += ["+dither", "-colors", str(kleuren)] if kleuren else []
         subprocess.run(["convert", "-size", f"{self.breedte}x{self.hoogte}", "-depth", "8", "rgb:-", "-strip",
                         *beperking, f"png:{pad}"], input=self.rgb, check=True)
 
 
+    def _png(self):
+        def deel(soort, inhoud):
+            return struct.pack(">I", len(inhoud)) + soort + inhoud + struct.pack(">I", zlib.crc32(soort + inhoud))
+        lijn = 3 * self.breedte
+        regels = b"".join(b"\0" + self.rgb[y * lijn:(y + 1) * lijn] for y in range(self.hoogte))
+        kop = struct.pack(">IIBBBBB", self.breedte, self.hoogte, 8, 2, 0, 0, 0)  # three channels of eight bits
+        return b"\x89PNG\r\n\x1a\n" + deel(b"IHDR", kop) + deel(b"IDAT", zlib.compress(regels)) + deel(b"IEND", b"")
+
+
+@functools.cache
 def inktbreedte(tekst, punten):
     """How many pixels wide the ink of a text is at this size (96 dpi), by another renderer than the program's.
 

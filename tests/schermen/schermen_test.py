@@ -2,6 +2,8 @@
 """The program on two outputs, one for the operator and one for the public, driven and looked at from outside.
 
     tests/schermen/schermen_test.py TAVELO [TEST...]
+
+Each class is a test of its own for CTest: tests/CMakeLists.txt names them.
 """
 
 import re

@@ -1,30 +1,32 @@
-// Memory for many small pieces that go together: it is only added to, and given back all at once.
+// Memory for many small pieces that go together: it is only added to, and given back all at once. The library's own
+// (std::pmr::monotonic_buffer_resource) behind a small header, since nearly every rule includes the grid and its header
+// is a heavy one.
 #pragma once
 
 #include <cstddef>
+#include <utility>
 
 namespace tavelo {
 
 class TextStore {
   public:
-    TextStore() = default;
+    TextStore();
     ~TextStore();
-    TextStore(TextStore&& other) noexcept;
-    TextStore& operator=(TextStore&& other) noexcept;
+    // What was moved from may only be assigned to or go.
+    TextStore(TextStore&& other) noexcept : memory_(std::exchange(other.memory_, nullptr)) {}
+    TextStore& operator=(TextStore&& other) noexcept {
+        std::swap(memory_, other.memory_);
+        return *this;
+    }
 
-    // `size` bytes in one piece, for objects of that alignment: a power of two, at most that of any plain type. Throws
-    // std::bad_alloc, and then has changed nothing.
+    // `size` bytes in one piece, for objects of that alignment: a power of two. Throws std::bad_alloc, and then has
+    // changed nothing.
     [[nodiscard]] void* allocate(std::size_t size, std::size_t alignment);
 
   private:
-    struct Block;
+    struct Memory;
 
-    void add_block(std::size_t size);
-
-    Block* last_ = nullptr; // each block knows the one before it
-    char* free_ = nullptr;  // what is left of the last one
-    std::size_t left_ = 0;
-    std::size_t next_size_ = 1024;
+    Memory* memory_; // owned
 };
 
 } // namespace tavelo

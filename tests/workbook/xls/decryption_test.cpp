@@ -244,6 +244,20 @@ TEST(XlsSlot, gaat_open_waar_de_stroom_in_het_bestand_ligt) {
     EXPECT_EQ(bytes, Bytes().zeros(before).add(plain).zeros(50).bytes());
 }
 
+TEST(XlsSlot, sommige_records_blijven_achter_een_slot_leesbaar) {
+    const Bytes lock = Bytes().record(0x0809, bof_8(globals)).record(filepass, Bytes().u16(0).u16(0xB359).u16(0x9A0A));
+    const auto stays = [&lock](unsigned type) {
+        const Bytes file = Bytes(lock).record(type, Bytes().narrow("Paard"));
+        std::vector<std::byte> bytes = file.bytes();
+        EXPECT_EQ(unlock(bytes), Lock::opened);
+        return bytes == file.bytes();
+    };
+    for (const unsigned type : {0x0009U, 0x0209U, 0x0409U, 0x0809U, 0x00E1U, 0x0138U, 0x0194U, 0x0195U, 0x0196U})
+        EXPECT_TRUE(stays(type)) << type;
+    for (const unsigned type : {0x0001U, 0x0085U, 0x00E0U, 0x00E2U, 0x0137U, 0x0139U, 0x0193U, 0x0197U})
+        EXPECT_FALSE(stays(type)) << type;
+}
+
 TEST(XlsSlot, een_eigen_wachtwoord_wordt_gevraagd) {
     EXPECT_TRUE(asks_for_password(book_with(Bytes().u16(0).u16(0xB358).u16(0x9A0A))));
     EXPECT_TRUE(asks_for_password(book_with(Bytes(weak_lock).put_u8(6, 0xFF)))); // another salt

@@ -97,6 +97,8 @@ TEST(Codetabel, van_japan_heeft_ook_tekens_van_een_byte) {
     EXPECT_EQ(utf8_of("\xFD\x40", 932), "\u00FD@");
     EXPECT_EQ(utf8_of("\x85\x40", 932), "\uFFFD"); // a row that there is not
     EXPECT_EQ(utf8_of("\x94\x6E\x81", 932), "馬\u0081");
+    EXPECT_EQ(utf8_of(std::string_view("\x94\x6E\x81@").substr(0, 3), 932),
+              "馬\u0081"); // what follows is not looked at
 }
 
 TEST(Codetabel, van_een_byte_per_letter_is_die_van_windows) {

@@ -299,6 +299,19 @@ TEST(Vreemde_waarden, geven_een_fout_of_hun_cijfers) {
     EXPECT_EQ(shown(1e308, "# ?/?"), "1" + std::string(308, '0') + "    ");
 }
 
+TEST(Getoond_getal, neemt_de_plaats_in_van_wat_er_stond) {
+    const Locale& dutch = locale_named("nl-NL");
+    std::string text = "Ruiter";
+    NumberFormat("0.00").show_number(65.125, DateSystem::from_1900, dutch, text);
+    EXPECT_EQ(text, "65,13");
+    NumberFormat("").show_number(7, DateSystem::from_1900, dutch, text);
+    EXPECT_EQ(text, "7");
+    NumberFormat("hh:mm").show_number(0.5, DateSystem::from_1900, dutch, text);
+    EXPECT_EQ(text, "12:00");
+    NumberFormat("hh:mm").show_number(-1, DateSystem::from_1900, dutch, text);
+    EXPECT_EQ(text, "######"); // no time lies before midnight
+}
+
 TEST(Lange_codes, blijven_binnen_hun_eigen_maat) {
     const std::string zeros(1'000'000, '0');
     EXPECT_EQ(shown(7, zeros).size(), zeros.size());

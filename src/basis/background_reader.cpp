@@ -53,19 +53,24 @@ void BackgroundReader::read(std::string pad, std::string begin, std::uint64_t ho
 }
 
 void BackgroundReader::start(std::function<void()> work, std::function<void()> done) {
-    const auto run = [line = line_, work = std::move(work)] {
+    // The thread lets go of itself. Let go of at once, the thread library of the Windows compiler loses it now and then
+    // before it has begun, and nothing would ever be read again.
+    const auto own = std::make_shared<std::thread>();
+    const auto run = [line = line_, own, work = std::move(work)] {
         try {
             work();
         } catch (const std::exception&) { // no memory for the bytes: they were not read
         }
         const std::lock_guard lock(line->mutex);
+        own->detach();
         if (!line->post) return;
         line->post([line] {
             if (line->reader) line->reader->finish();
         });
     };
     try {
-        std::thread(run).detach();
+        const std::lock_guard lock(line_->mutex);
+        *own = std::thread(run);
     } catch (const std::system_error&) { // no thread to be had: there is no answer, and the next task tries again
         return;
     }

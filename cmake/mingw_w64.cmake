@@ -7,6 +7,11 @@ set(CMAKE_C_COMPILER /usr/bin/${mingw}-gcc-posix)
 set(CMAKE_CXX_COMPILER /usr/bin/${mingw}-g++-posix)
 set(CMAKE_RC_COMPILER /usr/bin/${mingw}-windres)
 
+# Of a function that stands in several object files the linker keeps one, not always the one that its caller was compiled
+# with; without this the caller counts on the registers that its own one leaves alone.
+set(CMAKE_C_FLAGS_INIT -fno-ipa-ra)
+set(CMAKE_CXX_FLAGS_INIT -fno-ipa-ra)
+
 # Nothing of Debian itself is found by accident: libraries come from the compiler's own folder and from CMAKE_PREFIX_PATH.
 set(CMAKE_FIND_ROOT_PATH /usr/${mingw} ${CMAKE_PREFIX_PATH})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)

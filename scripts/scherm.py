@@ -109,7 +109,6 @@ class Beeld:
         subprocess.run(["convert", "-size", f"{self.breedte}x{self.hoogte}", "-depth", "8", "rgb:-", "-strip",
                         *beperking, f"png:{pad}"], input=self.rgb, check=True)
 
-
     def _png(self):
         def deel(soort, inhoud):
             return struct.pack(">I", len(inhoud)) + soort + inhoud + struct.pack(">I", zlib.crc32(soort + inhoud))
